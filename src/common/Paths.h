@@ -1,0 +1,38 @@
+#ifndef PATHS_H
+#define PATHS_H
+
+#include <QString>
+
+// The device's fixed places and the one persisted setting, each with its only spelling here.
+namespace Paths {
+
+// Root of the file manager.
+inline QString ftpFolder()
+{
+    return QStringLiteral("/root/zeltempfiles/ftp");
+}
+
+// The same folder as the file dialog compares it with start folders and typed paths.
+inline QString ftpFolderWithSlash()
+{
+    return ftpFolder() + QLatin1Char('/');
+}
+
+inline QString settingsOrganization()
+{
+    return QStringLiteral("MyOrganization");
+}
+inline QString settingsApplication()
+{
+    return QStringLiteral("MyApplication");
+}
+
+// Key of the remembered folder; the file modes append the text of their first filter.
+inline QString lastFolderKey()
+{
+    return QStringLiteral("LastFilePath");
+}
+
+} // namespace Paths
+
+#endif // PATHS_H

@@ -1,0 +1,65 @@
+#ifndef QZELINTSPINBOX_H
+#define QZELINTSPINBOX_H
+
+#include "QTarnKitGlobal.h"
+
+#include <QWidget>
+
+class QSlider;
+class QSpinBox;
+
+namespace QTarnKit {
+
+/**
+ * An integer spin box for touch screens: while it has the keyboard focus, a slider floats below it.
+ *
+ * @code
+ * auto *volume = new QTarnKit::QZelIntSpinBox(this);
+ * volume->SetRange(0, 30);
+ * volume->SetValue(12);
+ * @endcode
+ *
+ * The slider is a window of its own that never takes the focus. It is placed when the focus comes
+ * and stays there should the window move meanwhile. It belongs to this widget.
+ *
+ * A style sheet addresses the parts by type, as QSpinBox and QSlider.
+ */
+class QTARNKIT_EXPORT QZelIntSpinBox : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Creates the widget with the range 0 to 100.
+    explicit QZelIntSpinBox(QWidget *parent = nullptr);
+    ~QZelIntSpinBox() override;
+
+    /// Sets the range of both controls. A @p min above @p max changes nothing.
+    void SetRange(const int &min, const int &max);
+
+    /// Sets the value, clamped to the range.
+    void SetValue(const int &value);
+
+    int Value();
+
+    /// Shows or hides the slider by hand, where it is.
+    void SetSliderVisable(bool visible);
+
+    /// Builds the widget; called once by the constructor.
+    void Init();
+
+    /// Shows the slider when the spin box gets the focus and hides it when it goes.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+protected:
+    QSlider *slider = nullptr;
+    QSpinBox *spinBox = nullptr;
+    int minValue = 0;
+    int maxValue = 100;
+
+private:
+    void placeSlider();
+};
+
+} // namespace QTarnKit
+
+#endif // QZELINTSPINBOX_H

@@ -1,0 +1,135 @@
+#include "filedialog/QZelFileDialog.h"
+
+#include "dialogs/QZelFolderNameDialog.h"
+#include "filedialog/FileNameRules.h"
+
+#include "ui_QZelFileDialog.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QFileSystemModel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPointer>
+
+void QZelFileDialog::InitMenu()
+{
+    folderMenu = new QMenu(this);
+    blankMenu = new QMenu(this);
+    fileMenu = new QMenu(this);
+
+    newAction = new QAction(tr("new"), this);
+    renameFolderAction = new QAction(tr("rename"), this);
+    deleteAction = new QAction(tr("delete"), this);
+    renameFileAction = new QAction(tr("rename"), this);
+
+    connect(newAction, &QAction::triggered, this, &QZelFileDialog::onNewFolder);
+    connect(renameFolderAction, &QAction::triggered, this, &QZelFileDialog::onRenameFolder);
+    connect(deleteAction, &QAction::triggered, this, &QZelFileDialog::onDeleteFolder);
+    connect(renameFileAction, &QAction::triggered, this, &QZelFileDialog::onRenameFile);
+
+    folderMenu->addActions({ newAction, renameFolderAction, deleteAction });
+    blankMenu->addAction(newAction);
+    fileMenu->addAction(renameFileAction);
+}
+
+void QZelFileDialog::onTreeMenuRequested(const QPoint &position)
+{
+    treeMenuIndex = ui->treeV_FileTree->indexAt(position);
+    QMenu *menu = treeMenuIndex.isValid() ? folderMenu : blankMenu;
+    menu->exec(ui->treeV_FileTree->viewport()->mapToGlobal(position));
+}
+
+void QZelFileDialog::onListMenuRequested(const QPoint &position)
+{
+    listMenuIndex = ui->treeV_FileList->indexAt(position);
+    if (listMenuIndex.isValid() && !fileModel->isDir(listMenuIndex))
+        fileMenu->exec(ui->treeV_FileList->viewport()->mapToGlobal(position));
+}
+
+// The commands go on with the empty name after a rejected dialog, and none of them reports a
+// failure.
+
+void QZelFileDialog::onNewFolder()
+{
+    const bool inRoot = !treeMenuIndex.isValid();
+    QString name;
+    if (!askForName(QString(), QString(), &name))
+        return;
+    // The clicked folder may have vanished meanwhile; the new one does not go elsewhere then.
+    if (!inRoot && !treeMenuIndex.isValid())
+        return;
+    fileModel->mkdir(inRoot ? rootIndex : treeMenuIndex, name);
+}
+
+void QZelFileDialog::onRenameFolder()
+{
+    QString name;
+    if (!askForName(QString(), QString(), &name) || !treeMenuIndex.isValid())
+        return;
+    const QString oldPath = fileModel->filePath(treeMenuIndex);
+    QDir parent(oldPath);
+    if (!parent.cdUp())
+        return;
+    // The empty name of a cancelled dialog makes this the parent itself, and the rename fails.
+    const QString newPath = parent.filePath(name);
+    if (!parent.rename(oldPath, newPath))
+        return;
+    setListRoot(fileModel->index(newPath));
+    backHistory.append(newPath + QLatin1Char('/'));
+    showPath(newPath + QLatin1Char('/'));
+}
+
+// Only an empty folder goes. The listing moves to the parent whether it did or not.
+void QZelFileDialog::onDeleteFolder()
+{
+    if (!treeMenuIndex.isValid())
+        return;
+    const QPersistentModelIndex parent(treeMenuIndex.parent());
+    fileModel->rmdir(treeMenuIndex);
+    setListRoot(parent);
+    showPath(fileModel->filePath(parent) + QLatin1Char('/'));
+}
+
+// The suffix cannot be changed from here. That holds for the empty name of a cancelled dialog too:
+// the file is then renamed to a dot and its suffix.
+void QZelFileDialog::onRenameFile()
+{
+    if (!listMenuIndex.isValid())
+        return;
+    const QString oldPath = fileModel->filePath(listMenuIndex);
+    QString name;
+    if (!askForName(tr("rename"), FileNameRules::lastPart(oldPath), &name))
+        return;
+    QDir parent(oldPath);
+    if (!parent.cdUp())
+        return;
+    const QString newName = FileNameRules::withForcedSuffix(name, QFileInfo(oldPath).suffix());
+    const QString newPath = parent.filePath(newName);
+    if (!QFile::rename(oldPath, newPath))
+        return;
+    ui->treeV_FileList->selectionModel()->select(fileModel->index(newPath),
+                                                 QItemSelectionModel::ClearAndSelect);
+    ui->let_FileName->setText(newName);
+}
+
+// Puts the trimmed name into name, the empty string when the name dialog was rejected. An empty
+// prompt leaves the dialog's own. Returns false when this dialog was destroyed meanwhile; on the
+// stack, the name dialog would then be deleted twice.
+bool QZelFileDialog::askForName(const QString &prompt, const QString &content, QString *name)
+{
+    const QPointer<QZelFileDialog> self(this);
+    const QPointer<QZelFolderNameDialog> dialog(new QZelFolderNameDialog(this));
+    dialog->setWindowFlags(dialog->windowFlags() | Qt::WindowStaysOnTopHint);
+    dialog->setWindowModality(Qt::WindowModal);
+    if (!prompt.isEmpty())
+        dialog->setTitle(prompt);
+    dialog->setContent(content);
+
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    if (accepted && dialog)
+        *name = dialog->let_FolderName->text().trimmed();
+    delete dialog;
+    return !self.isNull();
+}

@@ -1,0 +1,62 @@
+#ifndef QZELFILEMANAGERWIDGET_H
+#define QZELFILEMANAGERWIDGET_H
+
+#include "QTarnKitGlobal.h"
+
+#include <QDialog>
+#include <QPersistentModelIndex>
+#include <QPoint>
+
+class QFileSystemModel;
+class QModelIndex;
+class Ui_Form;
+
+/**
+ * A frameless dialog in which the user browses and deletes what lies in the device's FTP folder
+ * "/root/zeltempfiles/ftp".
+ *
+ * @code
+ * QZelFileManagerWidget manager(this);
+ * manager.exec();
+ * @endcode
+ *
+ * It emits nothing and returns nothing; the close button or the application closes it. Deleting
+ * asks once and then removes files and whole folders; a symbolic link goes without its target.
+ * Failures are not reported. Without the folder the views show the top of the file system.
+ *
+ * Object names for a style sheet: "wgt_TitleBar" with "label" and "btn_Close"; "btn_MainPage",
+ * "btn_UpPage"; "splitter" with "treeV_FileTree" and "listV_FileList"; "wgt_Bottom" with
+ * "btn_Delete".
+ */
+class QTARNKIT_EXPORT QZelFileManagerWidget : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit QZelFileManagerWidget(QWidget *parent);
+    ~QZelFileManagerWidget() override;
+
+    // The steps of the construction.
+    void Init();
+    void InitConnects();
+
+    /// Drags the window by its title strip, which swallows presses of every button.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+protected:
+    QFileSystemModel *fileModel = nullptr; ///< shared by tree and list
+    Ui_Form *ui = nullptr; ///< owned
+    QPersistentModelIndex rootIndex; ///< of the FTP folder, which may vanish
+    bool dragging = false; ///< the left button is down on the title strip
+    QPoint dragOffset; ///< pointer's screen position minus the frame's corner, at the press
+
+private:
+    void setListRoot(const QModelIndex &index);
+    void onListDoubleClicked(const QModelIndex &index);
+    void onMainPage();
+    void onUpPage();
+    void onDelete();
+    void removeEntry(const QModelIndex &index);
+};
+
+#endif // QZELFILEMANAGERWIDGET_H

@@ -1,0 +1,72 @@
+#ifndef QTITLEBAR_H
+#define QTITLEBAR_H
+
+#include "QTarnKitGlobal.h"
+
+#include <QColor>
+#include <QLabel>
+#include <QPoint>
+
+class QHBoxLayout;
+class QPushButton;
+
+/**
+ * A title strip for frameless windows: a title at the left, a close button at the right, a flat
+ * background, and dragging with the left button, which moves the strip's parent widget.
+ *
+ * Place it directly in the window that it shall drag:
+ *
+ * @code
+ * auto *bar = new QTitleBar(window);
+ * bar->SetTitle(tr("Settings"));
+ * connect(bar, &QTitleBar::SIG_CloseWindow, window, &QWidget::close);
+ * @endcode
+ *
+ * The strip is 25 pixels high. A style sheet addresses the children by type: "QTitleBar QLabel" is
+ * the title and "QTitleBar QPushButton" the close button, which has no text and no icon of its own.
+ * The background comes from SetThemeColor(), not from a style sheet. The strip owns its children.
+ */
+class QTARNKIT_EXPORT QTitleBar : public QLabel
+{
+    Q_OBJECT
+
+public:
+    /// Creates the strip; @p parent is the widget that it drags. Without one a drag does nothing.
+    explicit QTitleBar(QWidget *parent = nullptr);
+    ~QTitleBar() override;
+
+    /// Creates the children that do not exist yet; called by the constructor.
+    void InitTitleBar();
+
+    /// Sets the text of the title.
+    void SetTitle(QString title);
+
+    /// Sets the colour of the background, #262626 at first, and repaints the strip.
+    void SetThemeColor(QColor color);
+
+    /// 200 x 25 pixels, whatever the title.
+    QSize minimumSizeHint() const override;
+
+public Q_SLOTS:
+    /// Emits SIG_CloseWindow(); the argument is ignored.
+    void OnCloseBtnClickedEvent(bool);
+
+Q_SIGNALS:
+    /// The close button was clicked. Closing or hiding the window is up to the receiver.
+    void SIG_CloseWindow();
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+    QLabel *titleLabel = nullptr;
+    QPushButton *closeButton = nullptr;
+    QHBoxLayout *mainLayout = nullptr;
+    bool isPressed = false; ///< the left button is down on the strip
+    QPoint lastGlobalPos; ///< of the pointer, at the press and after each step of a drag
+    QColor themeColor { 38, 38, 38 };
+};
+
+#endif // QTITLEBAR_H
