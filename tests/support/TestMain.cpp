@@ -1,0 +1,73 @@
+#include "TestMain.h"
+
+#include <QMutex>
+#include <QRegularExpression>
+
+#include <list>
+
+namespace {
+
+// Warnings can come from the file-system model's thread.
+QMutex mutex;
+std::list<WarningGuard *> expected;
+QtMessageHandler qtTestHandler = nullptr;
+
+// The offscreen platform's own.
+bool isHarmless(const QString &message)
+{
+    return message == QLatin1String("This plugin does not support propagateSizeHints()");
+}
+
+} // namespace
+
+struct WarningGuardAccess
+{
+    static bool isExpected(const QString &message)
+    {
+        const QMutexLocker lock(&mutex);
+        for (WarningGuard *guard : expected) {
+            if (QRegularExpression(guard->pattern).match(message).hasMatch()) {
+                ++guard->passed;
+                return true;
+            }
+        }
+        return false;
+    }
+
+    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &message)
+    {
+        const bool bad = type == QtWarningMsg || type == QtCriticalMsg;
+        if (bad && (isHarmless(message) || isExpected(message)))
+            return;
+        if (qtTestHandler)
+            qtTestHandler(type, context, message);
+        if (bad)
+            QTest::qFail(qPrintable(QStringLiteral("unexpected warning: ") + message), __FILE__,
+                         __LINE__);
+    }
+};
+
+WarningGuard::WarningGuard(const QString &pattern)
+    : pattern(pattern)
+{
+    const QMutexLocker lock(&mutex);
+    expected.push_back(this);
+}
+
+WarningGuard::~WarningGuard()
+{
+    const QMutexLocker lock(&mutex);
+    expected.remove(this);
+}
+
+void TestCase::initTestCase()
+{
+    qtTestHandler = qInstallMessageHandler(&WarningGuardAccess::handle);
+}
+
+void TestCase::cleanup()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget *window : windows)
+        QVERIFY2(!window->isVisible(), window->metaObject()->className());
+}
