@@ -17,10 +17,10 @@ namespace QTarnKit {
 /// The standard buttons of a QUIMessageBox.
 enum MessageBoxStandardButton {
     NoButton = 0x001, ///< hides all four; wins over every other bit
-    Confirm = 0x002,
-    Cancel = 0x004,
-    Yes = 0x010,
-    No = 0x100
+    Confirm = 0x002, ///< accepts
+    Cancel = 0x004, ///< rejects
+    Yes = 0x010, ///< accepts
+    No = 0x100 ///< rejects
 };
 
 /**
@@ -50,6 +50,7 @@ class QTARNKIT_EXPORT QUIMessageBox : public QDialog
     Q_OBJECT
 
 public:
+    /// Creates an empty box, hidden; with a @p parent it lies inside that.
     explicit QUIMessageBox(QWidget *parent = nullptr);
     ~QUIMessageBox() override;
 
@@ -100,11 +101,19 @@ public:
     /// Starts a drag of the box by its free areas and title strip, and carries it out.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    // The steps of the construction.
+    /// Builds the box and starts its clock; called once by the constructor.
     void Init();
+
+    /// Lays the box out; called once by Init().
     void initForm();
+
+    /// Builds the strip with the close button; called once by initForm().
     QWidget *InitTitleBar();
+
+    /// Builds the row with icon and title; called once by initForm().
     QWidget *InitIconTitle();
+
+    /// Builds the row of buttons; called once by initForm().
     QWidget *InitBtns();
 
 Q_SIGNALS:
@@ -121,19 +130,19 @@ protected:
 
     int closeSec = 0; ///< seconds after which the box closes itself, 0 for never
     int currentSec = 0; ///< ticks since the message was set
-    QWidget *widgetTitle = nullptr;
-    QLabel *labTitle = nullptr;
-    QLabel *labIco = nullptr;
-    QTextEdit *txtInfo = nullptr;
-    QWidget *widgetBtns = nullptr;
-    QPushButton *btnOk = nullptr;
-    QPushButton *btnCancel = nullptr;
-    QPushButton *btnYes = nullptr;
-    QPushButton *btnNo = nullptr;
-    QList<QPushButton *> custButtons;
+    QWidget *widgetTitle = nullptr; ///< strip with the close button
+    QLabel *labTitle = nullptr; ///< title
+    QLabel *labIco = nullptr; ///< icon
+    QTextEdit *txtInfo = nullptr; ///< text
+    QWidget *widgetBtns = nullptr; ///< row of buttons
+    QPushButton *btnOk = nullptr; ///< Confirm
+    QPushButton *btnCancel = nullptr; ///< Cancel
+    QPushButton *btnYes = nullptr; ///< Yes
+    QPushButton *btnNo = nullptr; ///< No
+    QList<QPushButton *> custButtons; ///< custom buttons shown now
     int custIndex = -1; ///< of the custom button clicked last, -1 when there is none
-    int boxWidth = 290;
-    int boxHeight = 170;
+    int boxWidth = 290; ///< pixels
+    int boxHeight = 170; ///< pixels
 
 private:
     void startCountdown(int seconds);

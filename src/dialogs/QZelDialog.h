@@ -37,6 +37,7 @@ class QTARNKIT_EXPORT QZelDialog : public QDialog
     Q_OBJECT
 
 public:
+    /// Creates an empty shell; @p parent may be null.
     explicit QZelDialog(QWidget *parent);
     ~QZelDialog() override;
 
@@ -87,19 +88,19 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
-    QLabel *lbl_Title = nullptr;
-    QPushButton *btn_Close = nullptr;
-    QToolButton *btn_Max = nullptr;
+    QLabel *lbl_Title = nullptr; ///< title
+    QPushButton *btn_Close = nullptr; ///< close button
+    QToolButton *btn_Max = nullptr; ///< maximise button, hidden at first
     QPushButton *btn_Ok = nullptr; ///< null after SetBottom()
     QPushButton *btn_Cancel = nullptr; ///< null after SetBottom()
-    QVBoxLayout *mainLayout = nullptr;
+    QVBoxLayout *mainLayout = nullptr; ///< title strip, content, bottom row
     bool isPressed = false; ///< the left button is down on the title strip
     QPoint dragOffset; ///< pointer's screen position minus the frame's corner, at the press
     QWidget *wgt_Bottom = nullptr; ///< null after SetBottom()
-    QWidget *wgt_TitleBar = nullptr;
+    QWidget *wgt_TitleBar = nullptr; ///< title strip
     // These two hide QWidget's functions of the same name: the maximise button sets the geometry by
     // hand and never touches the window state, so they are the only record.
-    bool isMaximized = false;
+    bool isMaximized = false; ///< toggled by the maximise button
     QRect normalGeometry; ///< before maximising
 
 private:

@@ -34,6 +34,7 @@ class QTARNKIT_EXPORT QZelEncDialog : public QZelDialog
     Q_OBJECT
 
 public:
+    /// Creates the dialog, 370 x 205 pixels; @p parent may be null.
     explicit QZelEncDialog(QWidget *parent);
     ~QZelEncDialog() override;
 
@@ -63,18 +64,18 @@ protected:
     /// Empties and masks the form.
     void showEvent(QShowEvent *event) override;
 
-    QLabel *lbl_PwdTitle = nullptr;
-    QLabel *lbl_ConfirmTitle = nullptr;
+    QLabel *lbl_PwdTitle = nullptr; ///< caption of the password field
+    QLabel *lbl_ConfirmTitle = nullptr; ///< caption of the confirmation field
 
 public:
     /// The password field, for the owner to read after exec().
     QLineEdit *let_Pwd = nullptr;
 
 protected:
-    QLineEdit *let_ConfirmPwd = nullptr;
-    QCheckBox *chk_ShowPwd = nullptr;
-    QCheckBox *chk_ShowConfirmPwd = nullptr;
-    QLabel *lbl_Msg = nullptr;
+    QLineEdit *let_ConfirmPwd = nullptr; ///< confirmation field
+    QCheckBox *chk_ShowPwd = nullptr; ///< shows the password in clear
+    QCheckBox *chk_ShowConfirmPwd = nullptr; ///< shows the confirmation in clear
+    QLabel *lbl_Msg = nullptr; ///< error line
     QWidget *wgt_ConfirmRect = nullptr; ///< field of the confirmation row, "wgt_Rectangle"
     QString reserved; ///< unused; keeps the members' layout
 

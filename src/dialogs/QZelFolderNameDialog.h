@@ -26,6 +26,7 @@ class QTARNKIT_EXPORT QZelFolderNameDialog : public QZelDialog
     Q_OBJECT
 
 public:
+    /// Creates the dialog, 300 x 150 pixels; @p parent may be null.
     explicit QZelFolderNameDialog(QWidget *parent);
     ~QZelFolderNameDialog() override;
 

@@ -39,6 +39,7 @@ public:
     /// Sets the value, clamped to the range.
     void SetValue(const int &value);
 
+    /// The present value.
     int Value();
 
     /// Shows or hides the slider by hand, where it is.
@@ -51,10 +52,10 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
-    QSlider *slider = nullptr;
-    QSpinBox *spinBox = nullptr;
-    int minValue = 0;
-    int maxValue = 100;
+    QSlider *slider = nullptr; ///< floats below the spin box
+    QSpinBox *spinBox = nullptr; ///< fills the widget
+    int minValue = 0; ///< lower bound of both
+    int maxValue = 100; ///< upper bound of both
 
 private:
     void placeSlider();

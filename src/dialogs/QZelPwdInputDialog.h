@@ -22,6 +22,7 @@ class QTARNKIT_EXPORT QZelPwdInputDialog : public QZelEncDialog
     Q_OBJECT
 
 public:
+    /// Creates the dialog; @p parent may be null.
     explicit QZelPwdInputDialog(QWidget *parent);
     ~QZelPwdInputDialog() override;
 

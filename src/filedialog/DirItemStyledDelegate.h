@@ -22,9 +22,11 @@
 class QTARNKIT_EXPORT DirItemStyledDelegate : public QStyledItemDelegate
 {
 public:
+    /// Creates the delegate; @p parent owns it.
     explicit DirItemStyledDelegate(QObject *parent);
     ~DirItemStyledDelegate() override;
 
+    /// Paints a folder as usual and nothing for everything else.
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
 

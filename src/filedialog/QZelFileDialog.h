@@ -129,11 +129,17 @@ public:
     /// Drags the dialog by its title strip, which swallows presses of every button.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    // The steps of the construction, in the order in which the constructors take them.
+    /// Sets up controls, start folder, views and history; called once by the constructors.
     void Init();
+
+    /// Builds the context menus; called once by Init().
     void InitMenu();
+
+    /// Connects everything; called once by the constructors after Init().
     void InitConnects();
-    /// Opens the start folder's sub-folder or the remembered folder and shows it in the tree.
+
+    /// Called last by the constructors: opens the start folder's sub-folder or the remembered
+    /// folder and shows it in the tree.
     void expandedPath();
 
 Q_SIGNALS:
@@ -144,29 +150,29 @@ Q_SIGNALS:
     void sig_filePaths(QStringList paths);
 
 protected:
-    OperateMode operateMode = None;
-    QZelEncDialog *encDialog = nullptr;
+    OperateMode operateMode = None; ///< what the dialog is for
+    QZelEncDialog *encDialog = nullptr; ///< of the encryption option
     QFileSystemModel *fileModel = nullptr; ///< shared by tree and listing
     Ui_QZelFileDialogClass *ui = nullptr; ///< owned
     // Persistent, as are the two menu indexes: folders may vanish while the dialog is open.
     QPersistentModelIndex rootIndex; ///< of the start folder, the listing's home
     bool titlePressed = false; ///< the left button is down on the title strip
     QPoint dragOffset; ///< pointer's screen position minus the frame's corner, at the press
-    QString caption;
+    QString caption; ///< title and text of the OpenSave button
     QString dirPath; ///< start folder without trailing "/", empty for the root folder
-    QStringList filterList;
+    QStringList filterList; ///< filter texts, none for folders
     QString filePath; ///< chosen path
     QString currentPath; ///< what let_FilePath shows
     QVector<QString> backHistory; ///< the last entry is the folder shown now
-    QVector<QString> forwardHistory;
+    QVector<QString> forwardHistory; ///< folders that Back left
     QString password; ///< set through the encryption option
-    QMenu *folderMenu = nullptr;
-    QMenu *blankMenu = nullptr;
-    QMenu *fileMenu = nullptr;
-    QAction *newAction = nullptr;
-    QAction *renameFolderAction = nullptr;
-    QAction *deleteAction = nullptr;
-    QAction *renameFileAction = nullptr;
+    QMenu *folderMenu = nullptr; ///< on a folder of the tree
+    QMenu *blankMenu = nullptr; ///< on the tree's empty area
+    QMenu *fileMenu = nullptr; ///< on a file of the listing
+    QAction *newAction = nullptr; ///< makes a folder
+    QAction *renameFolderAction = nullptr; ///< renames a folder
+    QAction *deleteAction = nullptr; ///< deletes an empty folder
+    QAction *renameFileAction = nullptr; ///< renames a file
     QPersistentModelIndex treeMenuIndex; ///< in the tree, under the last right-click
     QPersistentModelIndex listMenuIndex; ///< in the listing, under the last right-click
     QStringList filePaths; ///< selected files

@@ -33,11 +33,14 @@ class QTARNKIT_EXPORT QZelFileManagerWidget : public QDialog
     Q_OBJECT
 
 public:
+    /// Creates the dialog over the FTP folder, which need not exist; @p parent may be null.
     explicit QZelFileManagerWidget(QWidget *parent);
     ~QZelFileManagerWidget() override;
 
-    // The steps of the construction.
+    /// Sets up the model and the views; called once by the constructor.
     void Init();
+
+    /// Connects views and buttons; called once by the constructor.
     void InitConnects();
 
     /// Drags the window by its title strip, which swallows presses of every button.

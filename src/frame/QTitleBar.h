@@ -56,17 +56,24 @@ Q_SIGNALS:
     void SIG_CloseWindow();
 
 protected:
+    /// Takes hold with the left button; the parent sees the event too.
     void mousePressEvent(QMouseEvent *event) override;
+
+    /// Lets go; the parent sees the event too.
     void mouseReleaseEvent(QMouseEvent *event) override;
+
+    /// Carries the parent along; the parent sees the event too.
     void mouseMoveEvent(QMouseEvent *event) override;
+
+    /// Fills the strip and draws a red line on the top edge of a strip in its parent's corner.
     void paintEvent(QPaintEvent *event) override;
 
-    QLabel *titleLabel = nullptr;
-    QPushButton *closeButton = nullptr;
-    QHBoxLayout *mainLayout = nullptr;
+    QLabel *titleLabel = nullptr; ///< title
+    QPushButton *closeButton = nullptr; ///< close button
+    QHBoxLayout *mainLayout = nullptr; ///< layout of the strip
     bool isPressed = false; ///< the left button is down on the strip
     QPoint lastGlobalPos; ///< of the pointer, at the press and after each step of a drag
-    QColor themeColor { 38, 38, 38 };
+    QColor themeColor { 38, 38, 38 }; ///< background
 };
 
 #endif // QTITLEBAR_H

@@ -79,14 +79,15 @@ Q_SIGNALS:
     void windowStateChange(bool);
 
 protected:
+    /// Marks the window as mapped.
     void showEvent(QShowEvent *event) override;
 
     /// A place for platform-specific handling; lets every native event pass.
     bool nativeEvent(const QByteArray &eventType, void *message, long *result) override;
 
     int padding = 2; ///< width of the border band, in pixels
-    bool moveEnable = true;
-    bool resizeEnable = true;
+    bool moveEnable = true; ///< dragging moves the window
+    bool resizeEnable = true; ///< the border resizes the window
     QWidget *titleBar = nullptr; ///< not owned; compared, never used through
     bool isPressed = false; ///< a press outside the border: the window is being moved
     QPoint pressPoint; ///< of the last press, in window coordinates

@@ -39,9 +39,13 @@ public Q_SLOTS:
     void SetProgress(int value);
 
 protected:
+    /// Paints ground and fill.
     void paintEvent(QPaintEvent *event) override;
+
     /// Empties the bar for the next show.
     void closeEvent(QCloseEvent *event) override;
+
+    /// Does nothing while there is no screen.
     void showEvent(QShowEvent *event) override;
 
     int progress = 0; ///< percent

@@ -36,11 +36,12 @@ public:
     void setValue(int v);
 
 protected:
+    /// Paints track and fill.
     void paintEvent(QPaintEvent *event) override;
 
-    int minimum = 0;
-    int maximum = 100;
-    int value = 0;
+    int minimum = 0; ///< value of the empty bar
+    int maximum = 100; ///< value of the full bar
+    int value = 0; ///< present value
 
 private:
     qreal fillWidth() const;

@@ -56,13 +56,13 @@ public:
     void setProgressBarValue(int value);
 
 protected:
-    QLabel *iconLabel = nullptr;
-    QLabel *infoLabel = nullptr;
-    ProgressBar *progressBar = nullptr;
-    QVBoxLayout *mainLayout = nullptr;
-    QTimer *timer = nullptr;
-    int frameIndex = 0;
-    QPixmap *loadingPixmap = nullptr;
+    QLabel *iconLabel = nullptr; ///< shows the present frame
+    QLabel *infoLabel = nullptr; ///< message
+    ProgressBar *progressBar = nullptr; ///< bar below the message
+    QVBoxLayout *mainLayout = nullptr; ///< layout of the box
+    QTimer *timer = nullptr; ///< steps the icon
+    int frameIndex = 0; ///< of the frame shown now
+    QPixmap *loadingPixmap = nullptr; ///< the icon; owned
     QVector<QPixmap> frames; ///< the icon turned in steps of 10 degrees
 
 private:

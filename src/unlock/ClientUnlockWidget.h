@@ -31,6 +31,7 @@ class QTARNKIT_EXPORT ClientUnlockWidget : public QWidget
     Q_OBJECT
 
 public:
+    /// Creates the notice, hidden; @p parent may be null.
     explicit ClientUnlockWidget(QWidget *parent);
     ~ClientUnlockWidget() override;
 
@@ -46,9 +47,13 @@ public:
     /// Shows the notice if ModalShow() had to put it off and it was not closed since.
     void TryShow();
 
-    // The steps of the construction.
+    /// Builds the widgets; called once by the constructor.
     void Init();
+
+    /// Builds the content of the title strip; called once by Init().
     void InitTitleBar();
+
+    /// Connects the button; called once by the constructor.
     void InitConnect();
 
 Q_SIGNALS:
@@ -59,11 +64,11 @@ protected:
     /// Forgets a show that was put off.
     void closeEvent(QCloseEvent *event) override;
 
-    QWidget *titleWidget = nullptr;
-    QLabel *titleLabel = nullptr;
-    QLabel *iconLabel = nullptr;
-    QLabel *msgLabel = nullptr;
-    QPushButton *unlockButton = nullptr;
+    QWidget *titleWidget = nullptr; ///< title strip
+    QLabel *titleLabel = nullptr; ///< title
+    QLabel *iconLabel = nullptr; ///< the host's icon
+    QLabel *msgLabel = nullptr; ///< message, wrapping
+    QPushButton *unlockButton = nullptr; ///< Unlock
     QString ip; ///< of the machine that took over
     bool showPending = false; ///< a show was asked for without a usable screen
     bool reserved = false; ///< unused; keeps the members' layout
