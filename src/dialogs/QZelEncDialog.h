@@ -56,7 +56,6 @@ public:
     /// Connects the check boxes; called once by the constructor.
     void InitConnects();
 
-public Q_SLOTS:
     /// Accepts when the password is not empty and both fields are equal; else says why not.
     void accept() override;
 

@@ -39,12 +39,11 @@ public:
     /// Fills the edit, with the present name before a rename.
     void setContent(QString text);
 
-    QLabel *lbl_FolderName = nullptr; ///< the prompt
-    QLineEdit *let_FolderName = nullptr; ///< the name, for the owner to read after exec()
-
-public Q_SLOTS:
     /// Accepts unless the name is empty. The name is not trimmed.
     void accept() override;
+
+    QLabel *lbl_FolderName = nullptr; ///< the prompt
+    QLineEdit *let_FolderName = nullptr; ///< the name, for the owner to read after exec()
 };
 
 #endif // QZELFOLDERNAMEDIALOG_H

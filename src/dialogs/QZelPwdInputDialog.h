@@ -35,7 +35,6 @@ public:
     /// As QZelEncDialog::SetEditTipText().
     void SetEditTipText(const QString &text);
 
-public Q_SLOTS:
     /// Emits passwordEntered(), or says in the error line that the password is empty.
     void accept() override;
 
