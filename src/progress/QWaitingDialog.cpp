@@ -43,7 +43,6 @@ QWaitingDialog::~QWaitingDialog()
 {
     timer->stop();
     delete timer;
-    delete loadingPixmap;
 }
 
 void QWaitingDialog::showWaitingDialog()
@@ -124,9 +123,9 @@ void QWaitingDialog::initConnects()
 // All turning is done here, once: a tick of the timer only swaps a pixmap.
 void QWaitingDialog::createFrames()
 {
-    loadingPixmap = new QPixmap(QStringLiteral(":/image/ic_loading.png"));
-    const int w = loadingPixmap->width();
-    const int h = loadingPixmap->height();
+    loadingPixmap.load(QStringLiteral(":/image/ic_loading.png"));
+    const int w = loadingPixmap.width();
+    const int h = loadingPixmap.height();
     // A square that holds the icon's diagonal at any angle. Without the icon it is 10 x 10.
     const int side = int(std::sqrt(double(w) * w + double(h) * h)) + FramePadding;
 
@@ -140,7 +139,7 @@ void QWaitingDialog::createFrames()
         QPainter painter(&frame);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.setTransform(turned);
-        painter.drawPixmap(-(w / 2), -(h / 2), *loadingPixmap);
+        painter.drawPixmap(-(w / 2), -(h / 2), loadingPixmap);
         painter.end();
         frames.append(frame);
     }

@@ -62,7 +62,7 @@ protected:
     QVBoxLayout *mainLayout = nullptr; ///< layout of the box
     QTimer *timer = nullptr; ///< steps the icon
     int frameIndex = 0; ///< of the frame shown now
-    QPixmap *loadingPixmap = nullptr; ///< the icon; owned
+    QPixmap loadingPixmap; ///< the icon
     QVector<QPixmap> frames; ///< the icon turned in steps of 10 degrees
 
 private:
