@@ -4,9 +4,9 @@
 #include <QtCore/qglobal.h>
 
 #if defined(QTARNKIT_LIBRARY)
-#    define QTARNKIT_EXPORT Q_DECL_EXPORT
+#define QTARNKIT_EXPORT Q_DECL_EXPORT
 #else
-#    define QTARNKIT_EXPORT Q_DECL_IMPORT
+#define QTARNKIT_EXPORT Q_DECL_IMPORT
 #endif
 
 #endif // QTARNKITGLOBAL_H
