@@ -45,6 +45,7 @@ QZelFileDialog::QZelFileDialog(QWidget *parent, const QString &caption, const QS
 
 QZelFileDialog::~QZelFileDialog()
 {
+    releaseMenus();
     delete ui;
 }
 

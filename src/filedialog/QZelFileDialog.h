@@ -219,6 +219,7 @@ private:
     void onRenameFolder();
     void onDeleteFolder();
     void onRenameFile();
+    void releaseMenus();
     bool askForName(const QString &prompt, const QString &content, QString *name);
 };
 

@@ -114,6 +114,19 @@ void QZelFileDialog::onRenameFile()
     ui->let_FileName->setText(newName);
 }
 
+// While a name is asked for, a menu is still handling the click that led there, and writes to
+// itself when that returns: then the menus go later than this dialog.
+void QZelFileDialog::releaseMenus()
+{
+    if (!findChild<QZelFolderNameDialog *>(QString(), Qt::FindDirectChildrenOnly))
+        return;
+    const QList<QMenu *> menus = { folderMenu, blankMenu, fileMenu };
+    for (QMenu *menu : menus) {
+        menu->setParent(nullptr);
+        menu->deleteLater();
+    }
+}
+
 // Puts the trimmed name into name, the empty string when the name dialog was rejected. An empty
 // prompt leaves the dialog's own. Returns false when this dialog was destroyed meanwhile; on the
 // stack, the name dialog would then be deleted twice.
