@@ -15,7 +15,7 @@ QtMessageHandler qtTestHandler = nullptr;
 // The offscreen platform's own.
 bool isHarmless(const QString &message)
 {
-    return message == QLatin1String("This plugin does not support propagateSizeHints()");
+    return message.startsWith(QLatin1String("This plugin does not support "));
 }
 
 } // namespace
