@@ -37,7 +37,9 @@ void QZelFileDialog::InitMenu()
 void QZelFileDialog::onTreeMenuRequested(const QPoint &position)
 {
     treeMenuIndex = ui->treeV_FileTree->indexAt(position);
-    QMenu *menu = treeMenuIndex.isValid() ? folderMenu : blankMenu;
+    const bool onFolder = treeMenuIndex.isValid();
+    newAction->setData(onFolder); // the folder may vanish before New is chosen
+    QMenu *menu = onFolder ? folderMenu : blankMenu;
     menu->exec(ui->treeV_FileTree->viewport()->mapToGlobal(position));
 }
 
@@ -53,14 +55,13 @@ void QZelFileDialog::onListMenuRequested(const QPoint &position)
 
 void QZelFileDialog::onNewFolder()
 {
-    const bool inRoot = !treeMenuIndex.isValid();
     QString name;
     if (!askForName(QString(), QString(), &name))
         return;
-    // The clicked folder may have vanished meanwhile; the new one does not go elsewhere then.
-    if (!inRoot && !treeMenuIndex.isValid())
-        return;
-    fileModel->mkdir(inRoot ? rootIndex : treeMenuIndex, name);
+    if (!newAction->data().toBool())
+        fileModel->mkdir(rootIndex, name);
+    else if (treeMenuIndex.isValid()) // if the clicked folder has vanished, it goes nowhere else
+        fileModel->mkdir(treeMenuIndex, name);
 }
 
 void QZelFileDialog::onRenameFolder()
