@@ -4,7 +4,10 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
+#include <QPointer>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
 #include <QWindow>
 
@@ -35,6 +38,26 @@ QPoint screenPosition(QAbstractItemView *view, const QString &path)
     const QRect row = view->visualRect(index);
     // Near the name's start: a narrow view shows no more of it.
     return view->viewport()->mapToGlobal(QPoint(row.left() + 12, row.center().y()));
+}
+
+// A menu opens at the press, and it is the menu that gets the release: before that, all the mouse
+// does still goes to the view.
+void rightClick(QAbstractItemView *view, const QPoint &position)
+{
+    const QPointer<QWidget> viewWindow(view->window());
+    bool pressed = true;
+    const auto release = [&] {
+        pressed = false;
+        QWidget *popup = QApplication::activePopupWidget();
+        if (QWidget *window = popup ? popup : viewWindow.data())
+            QTest::mouseRelease(window->windowHandle(), Qt::RightButton, Qt::NoModifier,
+                                window->windowHandle()->mapFromGlobal(position));
+    };
+    QObject context;
+    QTimer::singleShot(0, &context, release);
+    Pointer(viewWindow).press(position, Qt::RightButton);
+    if (pressed)
+        release();
 }
 
 } // namespace
@@ -117,15 +140,19 @@ void User::doubleClickItem(QAbstractItemView *view, const QString &path)
 
 void User::rightClickItem(QAbstractItemView *view, const QString &path)
 {
-    const QPoint position = screenPosition(view, path);
-    Pointer(view->window()).click(position, Qt::RightButton);
+    rightClick(view, screenPosition(view, path));
+}
+
+void User::rightClickAt(QAbstractItemView *view, const QPoint &position)
+{
+    rightClick(view, view->viewport()->mapToGlobal(position));
 }
 
 void User::rightClickBlank(QAbstractItemView *view)
 {
     const QWidget *viewport = view->viewport();
     const QPoint position = viewport->mapToGlobal(viewport->rect().bottomLeft() + QPoint(30, -10));
-    Pointer(view->window()).click(position, Qt::RightButton);
+    rightClick(view, position);
 }
 
 void User::choose(QMenu *menu, const QString &text)

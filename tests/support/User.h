@@ -30,6 +30,8 @@ void clickItem(QAbstractItemView *view, const QString &path,
                Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 void doubleClickItem(QAbstractItemView *view, const QString &path);
 void rightClickItem(QAbstractItemView *view, const QString &path);
+/// At a position of the view's viewport.
+void rightClickAt(QAbstractItemView *view, const QPoint &position);
 /// Below the last row.
 void rightClickBlank(QAbstractItemView *view);
 

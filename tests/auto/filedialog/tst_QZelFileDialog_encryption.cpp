@@ -2,28 +2,16 @@
 #include "ModalDriver.h"
 #include "ShownDialog.h"
 #include "TestMain.h"
+#include "TextMarker.h"
 #include "User.h"
 
 #include <QZelEncDialog.h>
 
 #include <QDir>
-#include <QTranslator>
 
 namespace {
 
 using Mode = QZelFileDialog::OperateMode;
-
-// Marks every text with the context it was looked up in.
-class Marker : public QTranslator
-{
-public:
-    Marker() { QCoreApplication::installTranslator(this); }
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        return QStringLiteral("<%1|%2>").arg(QLatin1String(context), QLatin1String(text));
-    }
-    bool isEmpty() const override { return false; }
-};
 
 // Fills both fields of the set-password dialog and ends it with a button.
 void setPassword(ModalDriver &driver, const QString &password, const QString &button)
@@ -181,7 +169,7 @@ void tst_QZelFileDialog_encryption::rejectedDialogKeepsTheEarlierPassword()
 void tst_QZelFileDialog_encryption::passwordTextsAreTranslatedWordByWord()
 {
     ShownDialog dialog(Mode::SaveEncryptedFile);
-    const Marker marker;
+    const TextMarker marker;
     ModalDriver driver;
     setPassword(driver, QStringLiteral("Abc123"), QStringLiteral("Confirm"));
     SeenBox seen;
@@ -217,7 +205,7 @@ void tst_QZelFileDialog_encryption::textsOfTheQuestionsAreTranslated()
     ShownDialog dialog { Mode(mode) };
     if (mode != Mode::SelectDirectory)
         User::item(dialog.list(), QStringLiteral("notes.txt"));
-    const Marker marker;
+    const TextMarker marker;
     ModalDriver driver;
     SeenBox seen;
     answerBox(driver, QStringLiteral("closeBtn"), &seen);
