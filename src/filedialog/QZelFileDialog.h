@@ -58,7 +58,7 @@ public:
 
     /**
      * Creates a dialog for @p mode that starts in folder @p dir (with or without a trailing "/").
-     * Without such a folder the listing starts at the top of the file system.
+     * Without such a folder the listing starts at the process's working directory.
      */
     QZelFileDialog(QWidget *parent, const QString &caption, const QString &dir,
                    const QString &filter, const OperateMode &mode);
