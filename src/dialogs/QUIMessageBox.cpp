@@ -55,12 +55,20 @@ QFlags<QTarnKit::MessageBoxStandardButton> buttonsOfType(int type)
     }
 }
 
-// A box without window-type bits must not be shown any more when QApplication ends, or the process
-// crashes at exit.
 void hideInstance()
 {
     QTarnKit::QUIMessageBox::Instance()->hide();
 }
+
+// A box that is still shown when QApplication ends crashes the process at exit. Where QApplication
+// lives longer, in a static variable, the box is gone by then and must not be touched.
+class HideWithApplication
+{
+public:
+    HideWithApplication() { qAddPostRoutine(hideInstance); }
+    ~HideWithApplication() { qRemovePostRoutine(hideInstance); }
+    Q_DISABLE_COPY(HideWithApplication)
+};
 
 } // namespace
 
@@ -77,8 +85,7 @@ QUIMessageBox::~QUIMessageBox() = default;
 QUIMessageBox *QUIMessageBox::Instance()
 {
     static QUIMessageBox box;
-    static const bool hiddenAtExit = (qAddPostRoutine(hideInstance), true);
-    Q_UNUSED(hiddenAtExit)
+    static const HideWithApplication hidesBox; // made after the box, so it goes before it
     return &box;
 }
 
