@@ -30,7 +30,7 @@ void QZelPwdInputDialog::SetEditTipText(const QString &text)
 // Never QDialog's: whether the password is right, and so when the dialog closes, is the receiver's.
 void QZelPwdInputDialog::accept()
 {
-    const QString password = let_Pwd->text().trimmed();
+    const QString password = let_Pwd ? let_Pwd->text().trimmed() : QString();
     if (password.isEmpty())
         SetErrorMsg(tr("errPwdEmpty"));
     else
