@@ -56,6 +56,7 @@ private Q_SLOTS:
     void addsNothingToTheMetaObject();
     void isAWindowModalShell();
     void sizeGrowsToTheContentWhenShown();
+    void isShownOverItsParent();
     void titleAndCaptions();
     void textsAreTranslatedInItsContext();
     void captions();
@@ -130,6 +131,19 @@ void tst_QZelEncDialog::sizeGrowsToTheContentWhenShown()
     dialog.show();
     QCOMPARE(dialog.width(), qMax(needed, dialog.minimumSizeHint().width()));
     QCOMPARE(dialog.size(), QSize(370, 205).expandedTo(dialog.minimumSizeHint()));
+}
+
+void tst_QZelEncDialog::isShownOverItsParent()
+{
+    QWidget host;
+    host.setWindowFlag(Qt::FramelessWindowHint);
+    host.setGeometry(60, 40, 700, 500);
+    host.show();
+    Probe dialog(&host);
+    dialog.show();
+    // Roughly: Qt allows for a frame.
+    const QPoint apart = dialog.geometry().center() - host.geometry().center();
+    QVERIFY2(apart.manhattanLength() < 100, qPrintable(QString::number(apart.manhattanLength())));
 }
 
 void tst_QZelEncDialog::titleAndCaptions()
