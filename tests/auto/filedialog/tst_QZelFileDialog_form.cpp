@@ -52,7 +52,6 @@ private Q_SLOTS:
     void everyWidgetIsMadeAsTheStyleSheetsExpect_data();
     void everyWidgetIsMadeAsTheStyleSheetsExpect();
     void theFormSetsNoStretch();
-    void aSizePolicyKeepsTheHeightForWidthFlag();
     void theDialogIsATitleStripFourRowsAndNothingElse();
     void theTitleStripHasTitleSpacerAndCloseButton();
     void theNavigationRowHasThreeButtonsAndThePath();
@@ -236,20 +235,6 @@ void tst_QZelFileDialog_form::theFormSetsNoStretch()
         QCOMPARE(widget->sizePolicy().horizontalStretch(), 0);
         QCOMPARE(widget->sizePolicy().verticalStretch(), 0);
     }
-}
-
-// All but the label take Qt's own default; a label's is false without word wrapping.
-void tst_QZelFileDialog_form::aSizePolicyKeepsTheHeightForWidthFlag()
-{
-    QDialog bare;
-    Ui::QZelFileDialogClass ui;
-    ui.setupUi(&bare);
-    QCOMPARE(ui.label_title->sizePolicy().hasHeightForWidth(),
-             QLabel().sizePolicy().hasHeightForWidth());
-    QCOMPARE(ui.btn_Close->sizePolicy().hasHeightForWidth(),
-             QPushButton().sizePolicy().hasHeightForWidth());
-    QCOMPARE(ui.splitter->sizePolicy().hasHeightForWidth(),
-             QSplitter().sizePolicy().hasHeightForWidth());
 }
 
 void tst_QZelFileDialog_form::theDialogIsATitleStripFourRowsAndNothingElse()

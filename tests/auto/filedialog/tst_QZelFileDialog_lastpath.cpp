@@ -293,9 +293,9 @@ void tst_QZelFileDialog_lastpath::theKeyHoldsTheFirstFilter()
     QFETCH(QZelFileDialog::OperateMode, mode);
     QFETCH(QString, filter);
     QFETCH(QString, key);
-    const auto dialog = FileDialogProbe::make(mode, ftp("/"), filter);
-    dialog->filterBox()->setCurrentIndex(dialog->filterBox()->count() - 1);
-    dialog->recordLastPath(QStringLiteral("/a/b"));
+    FileDialogProbe dialog(nullptr, QString(), ftp("/"), filter, mode);
+    dialog.filterBox()->setCurrentIndex(dialog.filterBox()->count() - 1);
+    dialog.recordLastPath(QStringLiteral("/a/b"));
     QCOMPARE(settings().allKeys(), QStringList(key));
     QCOMPARE(settings().value(key).toString(), QStringLiteral("/a"));
 }
