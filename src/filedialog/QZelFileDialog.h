@@ -58,7 +58,8 @@ public:
 
     /**
      * Creates a dialog for @p mode that starts in folder @p dir (with or without a trailing "/").
-     * Without such a folder the listing starts at the process's working directory.
+     * Without such a folder the listing starts at the process's working directory, with an empty
+     * @p dir at the top of all folders.
      */
     QZelFileDialog(QWidget *parent, const QString &caption, const QString &dir,
                    const QString &filter, const OperateMode &mode);
