@@ -47,13 +47,12 @@ protected:
     void show();
     QModelIndex index(const QString &path) const;
 
+    QVector<QStringList> kept;
+    QStringList loaded; // folders whose entries have all been read
+    // After what its signals write to, so gone before that.
     std::unique_ptr<QDialog> dialog;
     QFileSystemModel *model = nullptr;
     QTreeView *listing = nullptr;
-    QVector<QStringList> kept;
-
-private:
-    QStringList loaded; // folders whose entries have all been read
 };
 
 #endif // BROWSER_H

@@ -217,8 +217,8 @@ void addViewRows(Rows &rows, const char *series, const char *title, int size, do
     for (const Kind &kind : Kinds) {
         Row added = row(QLatin1String(series) + QLatin1String(kind.series),
                         QLatin1String(title) + QLatin1String(kind.title), size, goal);
-        added.inner = size > SizeWithGoal ? 2 : 20;
-        added.counted = size == SizeWithGoal ? 20 : 0;
+        added.inner = size > SizeWithGoal ? 2 : 10;
+        added.counted = size == SizeWithGoal ? 10 : 0;
         added.make = makerOf<T>(size, kind.kind);
         rows.push_back(added);
     }

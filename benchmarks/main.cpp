@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <ctime>
 
 #ifdef HAS_CALLGRIND
 #include <valgrind/callgrind.h>
@@ -79,37 +80,62 @@ void warmUp()
     EventLoop::settle();
 }
 
-double measured(const Row &row, Side side)
+// Of all threads of the process: a busy machine stretches the time on the wall, and less so this.
+double cpuMilliseconds()
+{
+    timespec now = {};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
+}
+
+struct Sample
+{
+    double figure = 0; // in the row's unit
+    double cpu = 0; // milliseconds
+};
+
+Sample measured(const Row &row, Side side)
 {
     const std::unique_ptr<Task> task = row.make(side);
     qint64 total = 0;
+    double cpu = 0;
     for (int i = 0; i < row.inner; ++i) {
         task->prepare();
+        const double cpuBefore = cpuMilliseconds();
         QElapsedTimer timer;
         timer.start();
         task->work();
         total += timer.nsecsElapsed();
+        cpu += cpuMilliseconds() - cpuBefore;
     }
-    return row.measure == Measure::Time ? double(total) / 1e6 / row.inner : task->figure();
+    const double milliseconds = double(total) / 1e6 / row.inner;
+    return { row.measure == Measure::Time ? milliseconds : task->figure(), cpu / row.inner };
 }
 
 // Pairs, so that what else the machine does hits both; the first pair only warms up. Each pair
 // begins with the other side than the one before.
 int measure(const Row &row, int pairs)
 {
-    QJsonArray samples[2];
+    QJsonArray figures[2];
+    QJsonArray cpu[2];
     for (int i = 0; i <= pairs; ++i) {
         const Side first = i % 2 ? Side::Ours : Side::Stock;
         const Side second = i % 2 ? Side::Stock : Side::Ours;
         for (const Side side : { first, second }) {
-            const double sample = measured(row, side);
-            if (i > 0)
-                samples[int(side)].append(sample);
+            const Sample sample = measured(row, side);
+            if (i == 0)
+                continue;
+            figures[int(side)].append(sample.figure);
+            cpu[int(side)].append(sample.cpu);
         }
     }
-    print({ { QStringLiteral("row"), row.name },
-            { QStringLiteral("ours"), samples[int(Side::Ours)] },
-            { QStringLiteral("stock"), samples[int(Side::Stock)] } });
+    QJsonObject result = { { QStringLiteral("ours"), figures[int(Side::Ours)] },
+                           { QStringLiteral("stock"), figures[int(Side::Stock)] } };
+    if (row.measure == Measure::Time) {
+        result[QLatin1String("ours cpu")] = cpu[int(Side::Ours)];
+        result[QLatin1String("stock cpu")] = cpu[int(Side::Stock)];
+    }
+    print(result);
     return 0;
 }
 
@@ -118,8 +144,8 @@ int run(const Row &row, Side side, int repeats)
 {
     QJsonArray samples;
     for (int i = 0; i < repeats; ++i)
-        samples.append(measured(row, side));
-    print({ { QStringLiteral("row"), row.name }, { QStringLiteral("samples"), samples } });
+        samples.append(measured(row, side).figure);
+    print({ { QStringLiteral("samples"), samples } });
     return 0;
 }
 

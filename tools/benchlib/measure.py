@@ -11,10 +11,16 @@ def row(program, row):
     if row["unit"] == "calls":
         return calls(program, row)
     pairs = json.loads(program.run(["--row", row["row"]]))
-    ratios = [ours / stock for ours, stock in zip(pairs["ours"], pairs["stock"])]
-    low, ratio, high = quartiles(ratios)
-    return {"ours": statistics.median(pairs["ours"]), "stock": statistics.median(pairs["stock"]),
-            "ratio": ratio, "low": low, "high": high, "pairs": len(ratios)}
+    low, ratio, high = quartiles(ratios(pairs["ours"], pairs["stock"]))
+    result = {"ours": statistics.median(pairs["ours"]), "stock": statistics.median(pairs["stock"]),
+              "ratio": ratio, "low": low, "high": high, "pairs": len(pairs["ours"])}
+    if "ours cpu" in pairs:
+        result["cpu ratio"] = statistics.median(ratios(pairs["ours cpu"], pairs["stock cpu"]))
+    return result
+
+
+def ratios(ours, stock):
+    return [of_ours / of_stock for of_ours, of_stock in zip(ours, stock)]
 
 
 def quartiles(values):

@@ -19,7 +19,8 @@ QProgressBar, QSpinBox with QSlider, a frameless QMainWindow; for the folder tre
 lacks, a QTreeView over a QFileSystemModel of folders only.
 
 A ratio is the median over pairs of measurements, taken in turn after one pair that warms up; the
-spread is from the first to the third quartile. Work of less than a millisecond is compared by
+spread is from the first to the third quartile, and "in CPU" is the ratio of the processor time of
+all threads. Work of less than a millisecond is compared by
 instructions under callgrind (marked "counted"): durations that short do not repeat. Figures are for
 one work. A goal is the most that a ratio may be.
 """
@@ -74,13 +75,14 @@ def cells(result):
     ratio, how, low, high = judged(result)
     ours, stock = amounts(result)
     spread = f"{low:.2f} to {high:.2f}" if low is not None else ""
-    return (result["title"], ours, stock, f"{ratio:.2f}", spread, how, f"{result['goal']:g}",
+    cpu = f"{result['cpu ratio']:.2f}" if low is not None and "cpu ratio" in result else ""
+    return (result["title"], ours, stock, f"{ratio:.2f}", spread, cpu, how, f"{result['goal']:g}",
             "yes" if reached(result) else "**no**")
 
 
 def plain_line(result):
-    title, ours, stock, ratio, spread, how, goal, ok = cells(result)
-    return (f"{result['row']:28} {ours:>16} {stock:>16} {ratio:>9} {spread:>16} {how:>9} "
+    title, ours, stock, ratio, spread, cpu, how, goal, ok = cells(result)
+    return (f"{result['row']:26} {ours:>16} {stock:>16} {ratio:>7} {spread:>16} {cpu:>7} {how:>9} "
             f"goal {goal:>4} {ok.strip('*')}")
 
 
@@ -110,7 +112,7 @@ def library_lines(figures):
 
 def document(results):
     yield HEADER.format(**results["machine"])
-    yield from table(["work", "ours", "stock", "ratio", "spread", "taken", "goal", "reached"],
+    yield from table(["work", "ours", "stock", "ratio", "spread", "in CPU", "taken", "goal", "reached"],
                      (cells(result) for result in results["rows"].values()))
     if results.get("growth"):
         yield GROWTH
