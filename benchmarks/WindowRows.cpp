@@ -114,14 +114,21 @@ std::unique_ptr<QWidget> ourNameDialog()
     return dialog;
 }
 
-template <class Window>
-std::unique_ptr<QWidget> shownMainWindow()
+std::unique_ptr<QWidget> shown(std::unique_ptr<QWidget> window)
 {
-    auto window = std::make_unique<Window>();
-    window->setWindowFlags(window->windowFlags() | Qt::FramelessWindowHint);
     window->resize(800, 600);
     window->show();
     return window;
+}
+
+std::unique_ptr<QWidget> ourBaseWindow()
+{
+    return shown(std::make_unique<QZelBaseWindows>());
+}
+
+std::unique_ptr<QWidget> stockBaseWindow()
+{
+    return shown(std::make_unique<QMainWindow>(nullptr, Qt::FramelessWindowHint));
 }
 
 // A form whose first field has the focus: the slider of ours floats only while its own box has it.
@@ -180,8 +187,7 @@ Rows windowRows()
           [] { return stockInput(QLineEdit::Password); } },
         { "show-name-dialog", "name dialog", 1.0, ourNameDialog,
           [] { return stockInput(QLineEdit::Normal); } },
-        { "show-base-window", "base window", 0.6, shownMainWindow<QZelBaseWindows>,
-          shownMainWindow<QMainWindow> },
+        { "show-base-window", "base window", 0.6, ourBaseWindow, stockBaseWindow },
         { "show-spin-box", "form with a spin box and its slider", 0.9, ourSpinBox, stockSpinBox },
     };
     Rows rows;

@@ -36,7 +36,8 @@ class Program:
         self.executable = build / "benchmarks" / "benchmark"
         if not self.executable.exists():
             fail(f"{self.executable} is not built; ./dev bench builds it")
-        self.rows = [json.loads(line) for line in self.run(["--list"]).splitlines()]
+        self.rows = [{**json.loads(line), "order": order}
+                     for order, line in enumerate(self.run(["--list"]).splitlines())]
 
     def run(self, arguments, wrapper=()):
         """Returns what the program prints, started by the wrapper's command line."""
