@@ -1,8 +1,8 @@
 #include "FtpFolder.h"
+#include "MarkingTranslator.h"
 #include "ModalDriver.h"
 #include "ShownDialog.h"
 #include "TestMain.h"
-#include "TextMarker.h"
 #include "User.h"
 
 #include <QZelEncDialog.h>
@@ -169,16 +169,16 @@ void tst_QZelFileDialog_encryption::rejectedDialogKeepsTheEarlierPassword()
 void tst_QZelFileDialog_encryption::passwordTextsAreTranslatedWordByWord()
 {
     ShownDialog dialog(Mode::SaveEncryptedFile);
-    const TextMarker marker;
+    const MarkingTranslator marker;
     ModalDriver driver;
     setPassword(driver, QStringLiteral("Abc123"), QStringLiteral("Confirm"));
     SeenBox seen;
     answerBox(driver, QStringLiteral("closeBtn"), &seen);
     User::clickButton(&dialog, QStringLiteral("btn_encOption"));
     QVERIFY(driver.finished());
-    QCOMPARE(seen.title, QStringLiteral("<QZelFileDialog|sure>"));
+    QCOMPARE(seen.title, QStringLiteral("[QZelFileDialog|sure]"));
     QCOMPARE(seen.text,
-             QStringLiteral("<QZelFileDialog|password>Abc123\n<QZelFileDialog|passwordWarning>"));
+             QStringLiteral("[QZelFileDialog|password]Abc123\n[QZelFileDialog|passwordWarning]"));
 }
 
 void tst_QZelFileDialog_encryption::textsOfTheQuestionsAreTranslated_data()
@@ -187,14 +187,14 @@ void tst_QZelFileDialog_encryption::textsOfTheQuestionsAreTranslated_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("text");
     QTest::newRow("save") << int(Mode::SaveFile) << QStringLiteral("notes")
-                          << QStringLiteral("<QZelFileDialog|Is storage overwritten?>");
+                          << QStringLiteral("[QZelFileDialog|Is storage overwritten?]");
     QTest::newRow("open") << int(Mode::OpenFile) << QStringLiteral("gone")
-                          << QStringLiteral("<QZelFileDialog|The file/gone.txt does not exist>");
+                          << QStringLiteral("[QZelFileDialog|The file/gone.txt does not exist]");
     QTest::newRow("folder") << int(Mode::SelectDirectory) << QStringLiteral("gone")
-                            << QStringLiteral("<QZelFileDialog|The folder/gone does not exist>");
+                            << QStringLiteral("[QZelFileDialog|The folder/gone does not exist]");
     QTest::newRow("double-click")
             << int(Mode::SaveFile) << QString()
-            << QStringLiteral("<QZelFileDialog|The file already exists. Whether to replace it?>");
+            << QStringLiteral("[QZelFileDialog|The file already exists. Whether to replace it?]");
 }
 
 void tst_QZelFileDialog_encryption::textsOfTheQuestionsAreTranslated()
@@ -205,7 +205,7 @@ void tst_QZelFileDialog_encryption::textsOfTheQuestionsAreTranslated()
     ShownDialog dialog { Mode(mode) };
     if (mode != Mode::SelectDirectory)
         User::item(dialog.list(), QStringLiteral("notes.txt"));
-    const TextMarker marker;
+    const MarkingTranslator marker;
     ModalDriver driver;
     SeenBox seen;
     answerBox(driver, QStringLiteral("closeBtn"), &seen);

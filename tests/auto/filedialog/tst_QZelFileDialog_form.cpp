@@ -1,26 +1,15 @@
 #include "FileDialogProbe.h"
 #include "FtpFolder.h"
+#include "MarkingTranslator.h"
 #include "TestMain.h"
 
 #include "ui_QZelFileDialog.h"
 
 #include <QTemporaryDir>
-#include <QTranslator>
 
 Q_DECLARE_METATYPE(QMargins)
 
 namespace {
-
-// Shows where a text comes from.
-class ContextTranslator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        return QString::fromUtf8(context) + QLatin1Char('|') + QString::fromUtf8(text);
-    }
-    bool isEmpty() const override { return false; }
-};
 
 // Has a slot that follows Qt's naming, so that a form connects it by itself.
 class DialogWithSlot : public QDialog
@@ -386,14 +375,12 @@ void tst_QZelFileDialog_form::everyTextIsTranslatedInTheFormsContext()
     ui.btn_Close->setText(QStringLiteral("x"));
     ui.btn_OpenSave->setText(QStringLiteral("x"));
 
-    ContextTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
+    const MarkingTranslator marker;
     const FileDialogProbe dialog(nullptr, QString(), QString());
     ui.retranslateUi(&bare);
-    QVERIFY(QCoreApplication::removeTranslator(&translator));
 
     const auto translated = [](const char *key) {
-        return QStringLiteral("QZelFileDialogClass|") + QString::fromLatin1(key);
+        return QStringLiteral("[QZelFileDialogClass|%1]").arg(QLatin1String(key));
     };
     QCOMPARE(dialog.windowTitle(), translated("QZelFileDialog"));
     QCOMPARE(ui.label_title->text(), translated("OpenSave"));

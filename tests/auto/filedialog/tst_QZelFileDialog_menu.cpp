@@ -1,8 +1,8 @@
 #include "FtpFolder.h"
+#include "MarkingTranslator.h"
 #include "NameDialog.h"
 #include "ShownDialog.h"
 #include "TestMain.h"
-#include "TextMarker.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -148,13 +148,13 @@ void tst_QZelFileDialog_menu::menusBelongToTheDialog()
 
 void tst_QZelFileDialog_menu::actionsAreTranslated()
 {
-    const TextMarker marker;
+    const MarkingTranslator marker;
     ShownDialog dialog(Mode::OpenFile);
     const auto menus = dialog.findChildren<QMenu *>(QString(), Qt::FindDirectChildrenOnly);
-    QCOMPARE(User::texts(menus.at(0)), QStringList({ QStringLiteral("<QZelFileDialog|new>"),
-                                                     QStringLiteral("<QZelFileDialog|rename>"),
-                                                     QStringLiteral("<QZelFileDialog|delete>") }));
-    QCOMPARE(User::texts(menus.at(2)), QStringList(QStringLiteral("<QZelFileDialog|rename>")));
+    QCOMPARE(User::texts(menus.at(0)), QStringList({ QStringLiteral("[QZelFileDialog|new]"),
+                                                     QStringLiteral("[QZelFileDialog|rename]"),
+                                                     QStringLiteral("[QZelFileDialog|delete]") }));
+    QCOMPARE(User::texts(menus.at(2)), QStringList(QStringLiteral("[QZelFileDialog|rename]")));
 }
 
 void tst_QZelFileDialog_menu::keyboardChoosesToo()

@@ -1,8 +1,8 @@
 #include "FtpFolder.h"
+#include "MarkingTranslator.h"
 #include "NameDialog.h"
 #include "ShownDialog.h"
 #include "TestMain.h"
-#include "TextMarker.h"
 
 #include <QDir>
 #include <QFile>
@@ -168,13 +168,13 @@ void tst_QZelFileDialog_rename::promptIsTranslated()
     QVERIFY(makeEntries(folder, { QStringLiteral("notes.txt"), QStringLiteral("sub/") }));
     ShownDialog dialog(Mode::OpenFile, all);
     User::item(dialog.list(), QStringLiteral("notes.txt"));
-    const TextMarker marker;
+    const MarkingTranslator marker;
     const SeenNameDialog file = rename(dialog.list(), QStringLiteral("notes.txt"),
                                        QStringLiteral("memo"), rejectName());
-    QCOMPARE(file.prompt, QStringLiteral("<QZelFileDialog|rename>"));
+    QCOMPARE(file.prompt, QStringLiteral("[QZelFileDialog|rename]"));
     const SeenNameDialog sub =
             rename(dialog.tree(), QStringLiteral("sub"), QStringLiteral("new"), rejectName());
-    QCOMPARE(sub.prompt, QStringLiteral("<QZelFolderNameDialog|folderName>"));
+    QCOMPARE(sub.prompt, QStringLiteral("[QZelFolderNameDialog|folderName]"));
 }
 
 // Not in its whole row: so it is no selected file of a dialog for several.

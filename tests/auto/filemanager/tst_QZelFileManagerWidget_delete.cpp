@@ -1,7 +1,7 @@
+#include "MarkingTranslator.h"
 #include "ModalDriver.h"
 #include "ShownManager.h"
 #include "TestMain.h"
-#include "TextMarker.h"
 
 #include <QUIMessageBox.h>
 
@@ -140,10 +140,10 @@ void tst_QZelFileManagerWidget_delete::asksOnceWithYesAndNo()
 void tst_QZelFileManagerWidget_delete::questionIsTranslated()
 {
     ShownManager manager;
-    const TextMarker marker;
+    const MarkingTranslator marker;
     const SeenQuestion seen = pressDelete(manager, QStringLiteral("closeBtn"));
-    QCOMPARE(seen.title, QStringLiteral("<QZelFileManagerWidget|WARN>"));
-    QCOMPARE(seen.text, QStringLiteral("<QZelFileManagerWidget|Are you sure to delete ?>"));
+    QCOMPARE(seen.title, QStringLiteral("[QZelFileManagerWidget|WARN]"));
+    QCOMPARE(seen.text, QStringLiteral("[QZelFileManagerWidget|Are you sure to delete ?]"));
 }
 
 void tst_QZelFileManagerWidget_delete::unconfirmedRemovesNothing_data()

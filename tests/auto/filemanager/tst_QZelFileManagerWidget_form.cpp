@@ -1,6 +1,6 @@
+#include "MarkingTranslator.h"
 #include "ShownManager.h"
 #include "TestMain.h"
-#include "TextMarker.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -213,14 +213,14 @@ void tst_QZelFileManagerWidget_form::textsWithoutATranslation()
 
 void tst_QZelFileManagerWidget_form::textsAreTranslatedInTheFormsContext()
 {
-    const TextMarker marker;
+    const MarkingTranslator marker;
     const QZelFileManagerWidget translated(nullptr);
-    QCOMPARE(translated.windowTitle(), s("<Form|Form>"));
-    QCOMPARE(child<QLabel>(&translated, "label")->text(), s("<Form|FileManager>"));
+    QCOMPARE(translated.windowTitle(), s("[Form|Form]"));
+    QCOMPARE(child<QLabel>(&translated, "label")->text(), s("[Form|FileManager]"));
     QCOMPARE(child<QPushButton>(&translated, "btn_Close")->text(), QString());
-    QCOMPARE(child<QPushButton>(&translated, "btn_MainPage")->text(), s("<Form|MainPage>"));
-    QCOMPARE(child<QPushButton>(&translated, "btn_UpPage")->text(), s("<Form|UpPage>"));
-    QCOMPARE(child<QPushButton>(&translated, "btn_Delete")->text(), s("<Form|Delete>"));
+    QCOMPARE(child<QPushButton>(&translated, "btn_MainPage")->text(), s("[Form|MainPage]"));
+    QCOMPARE(child<QPushButton>(&translated, "btn_UpPage")->text(), s("[Form|UpPage]"));
+    QCOMPARE(child<QPushButton>(&translated, "btn_Delete")->text(), s("[Form|Delete]"));
 }
 
 void tst_QZelFileManagerWidget_form::stripAndCloseButtonKeepTheirSize()
