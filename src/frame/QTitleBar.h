@@ -22,6 +22,9 @@ class QPushButton;
  * connect(bar, &QTitleBar::SIG_CloseWindow, window, &QWidget::close);
  * @endcode
  *
+ * In a QZelBaseWindows, which moves by itself too, switch that off with setMoveEnable(false), also
+ * after each return to the normal state; else the window runs ahead of the pointer.
+ *
  * The strip is 25 pixels high. A style sheet addresses the children by type: "QTitleBar QLabel" is
  * the title and "QTitleBar QPushButton" the close button, which has no text and no icon of its own.
  * The background comes from SetThemeColor(), not from a style sheet. The strip owns its children.

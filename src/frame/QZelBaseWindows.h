@@ -13,8 +13,9 @@
  *
  * Derive an application's main window from it when the window system draws no frame. The pointer
  * moves the window by dragging it anywhere outside its border, and resizes it from the four edges
- * and four corners of a border band; the cursor shows where. All of this is driven by hover events,
- * which the class does not switch on by itself:
+ * and four corners of a border band; the cursor shows where. All of this is driven by hover events.
+ * The class leaves Qt::WA_Hover as it is: Qt 5.15's QMainWindow sets it, so it is set here only to
+ * be sure.
  *
  * @code
  * MainWindow::MainWindow() { setAttribute(Qt::WA_Hover); setTitleBar(strip); }
