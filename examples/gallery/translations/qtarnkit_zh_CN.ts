@@ -1,0 +1,206 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>ClientUnlockWidget</name>
+    <message>
+        <source>Client Unlock</source>
+        <translation>客户端被抢占</translation>
+    </message>
+    <message>
+        <source>Unlock</source>
+        <translation>解锁</translation>
+    </message>
+    <message>
+        <source>Client is unlocked,Please unlock</source>
+        <translation>本客户端已被其他机器抢占，请解锁。</translation>
+    </message>
+    <message>
+        <source>Preempt machine ip:</source>
+        <translation>抢占机器的 IP：</translation>
+    </message>
+</context>
+<context>
+    <name>Form</name>
+    <message>
+        <source>Form</source>
+        <translation>文件管理器</translation>
+    </message>
+    <message>
+        <source>FileManager</source>
+        <translation>文件管理器</translation>
+    </message>
+    <message>
+        <source>MainPage</source>
+        <translation>主目录</translation>
+    </message>
+    <message>
+        <source>UpPage</source>
+        <translation>上一级</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+</context>
+<context>
+    <name>QUIMessageBox</name>
+    <message>
+        <source>Confirm</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+</context>
+<context>
+    <name>QZelDialog</name>
+    <message>
+        <source>Confirm</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>QZelEncDialog</name>
+    <message>
+        <source>setSolPwd</source>
+        <translation>设置密码</translation>
+    </message>
+    <message>
+        <source>setPwd</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>confirmPwd</source>
+        <translation>确认密码</translation>
+    </message>
+    <message>
+        <source>pwdEmpty</source>
+        <translation>请输入密码</translation>
+    </message>
+    <message>
+        <source>pwdDifferent</source>
+        <translation>两次输入的密码不一致</translation>
+    </message>
+</context>
+<context>
+    <name>QZelFileDialog</name>
+    <message>
+        <source>sure</source>
+        <translation>确认密码</translation>
+    </message>
+    <message>
+        <source>password</source>
+        <translation>密码：</translation>
+    </message>
+    <message>
+        <source>passwordWarning</source>
+        <translation>请妥善保管，密码无法找回。</translation>
+    </message>
+    <message>
+        <source>The file already exists. Whether to replace it?</source>
+        <translation>文件已存在，是否替换？</translation>
+    </message>
+    <message>
+        <source>Is storage overwritten?</source>
+        <translation>文件已存在，是否覆盖？</translation>
+    </message>
+    <message>
+        <source>The folder/%1 does not exist</source>
+        <translation>文件夹“%1”不存在</translation>
+    </message>
+    <message>
+        <source>The file/%1 does not exist</source>
+        <translation>文件“%1”不存在</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>新建文件夹</translation>
+    </message>
+    <message>
+        <source>rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>delete</source>
+        <translation>删除</translation>
+    </message>
+</context>
+<context>
+    <name>QZelFileDialogClass</name>
+    <message>
+        <source>QZelFileDialog</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>OpenSave</source>
+        <translation>打开或保存</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>前进</translation>
+    </message>
+    <message>
+        <source>MainPage</source>
+        <translation>主目录</translation>
+    </message>
+    <message>
+        <source>EncryptionOption</source>
+        <translation>加密选项…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>QZelFileManagerWidget</name>
+    <message>
+        <source>WARN</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Are you sure to delete ?</source>
+        <translation>确定要删除所选项目吗？</translation>
+    </message>
+</context>
+<context>
+    <name>QZelFolderNameDialog</name>
+    <message>
+        <source>folderName</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>addFailed</source>
+        <translation>请输入名称</translation>
+    </message>
+</context>
+<context>
+    <name>QZelPwdInputDialog</name>
+    <message>
+        <source>solPwd</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>errPwdEmpty</source>
+        <translation>请输入密码</translation>
+    </message>
+</context>
+</TS>
