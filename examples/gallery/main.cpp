@@ -24,7 +24,7 @@ QString systemLanguage()
                                                             : QStringLiteral("en");
 }
 
-Options parsed(const QApplication &app)
+Options parsed(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Shows every window of QTarnKit at work."));
@@ -38,7 +38,7 @@ Options parsed(const QApplication &app)
     const QCommandLineOption language(QStringLiteral("language"), QStringLiteral("en or zh_CN."),
                                       QStringLiteral("language"), systemLanguage());
     parser.addOptions({ tour, style, language });
-    parser.process(app);
+    parser.process(arguments);
 
     Options options { parser.value(tour), parser.value(style), parser.value(language), QString() };
     if (parser.isSet(tour) && options.tourFolder.isEmpty())
@@ -56,10 +56,15 @@ Options parsed(const QApplication &app)
 
 int main(int argc, char *argv[])
 {
-    QApplication app(argc, argv);
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    // Qt would take --style for its own.
+    int programName = 1;
+    QApplication app(programName, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
 
-    const Options options = parsed(app);
+    const Options options = parsed(arguments);
     if (!options.fault.isEmpty()) {
         QTextStream(stderr) << "gallery: " << options.fault << '\n';
         return 2;

@@ -15,15 +15,19 @@ namespace {
 
 const auto Code = R"code(
 QString filter;
-const QString path = QZelFileDialog::getOpenFileName(
+const QString path =
+    QZelFileDialog::getOpenFileName(
         this, tr("Open"), QDir::homePath(),
         tr("Text (*.txt);;All (*)"), &filter);
 if (!path.isEmpty())
     load(path);
 
 QString password;
-const QString target = QZelFileDialog::getSaveFileName(
-        this, tr("Save"), QDir::homePath(), tr("Text (*.txt)"), &filter, true, &password);
+const QString target =
+    QZelFileDialog::getSaveFileName(
+        this, tr("Save"), QDir::homePath(),
+        tr("Text (*.txt)"), &filter,
+        true, &password);
 if (!target.isEmpty())
     save(target, password);
 )code";

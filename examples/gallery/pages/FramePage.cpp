@@ -28,7 +28,7 @@ Window::Window()
     setTitleBar(bar);
     connect(bar, &QTitleBar::SIG_CloseWindow,
             this, &QWidget::close);
-    connect(this, &QZelBaseWindows::titleDblClick,
+    connect(this, &Window::titleDblClick,
             this, &Window::toggleMaximized);
 }
 )code";

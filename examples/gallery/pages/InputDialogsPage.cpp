@@ -16,12 +16,13 @@ namespace {
 
 const auto Code = R"code(
 QZelPwdInputDialog dialog(this);
-connect(&dialog, &QZelPwdInputDialog::passwordEntered,
+connect(&dialog,
+        &QZelPwdInputDialog::passwordEntered,
         this, [&](const QString &password) {
     if (isRight(password))
         dialog.done(QDialog::Accepted);
     else
-        dialog.SetErrorMsg(tr("Wrong password"));
+        dialog.SetErrorMsg(tr("It is wrong"));
 });
 if (dialog.exec() == QDialog::Accepted)
     unlock();

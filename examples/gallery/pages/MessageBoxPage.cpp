@@ -21,11 +21,13 @@ box.setMessage(tr("Question"),
 if (box.exec() == QDialog::Accepted)
     removeRecord();
 
-QTarnKit::QUIMessageBox choice;
-choice.setMessage(tr("Conflict"), tr("Which one?"),
-                  { tr("Mine"), tr("Theirs") }, 0);
-connect(&choice, &QTarnKit::QUIMessageBox
-        ::CustBtnClicked, &choice, &QDialog::done);
+using QTarnKit::QUIMessageBox;
+QUIMessageBox choice;
+choice.setMessage(tr("Conflict"), tr("Which?"),
+                  { tr("Mine"), tr("Yours") },
+                  0);
+connect(&choice, &QUIMessageBox::CustBtnClicked,
+        &choice, &QDialog::done);
 const int chosen = choice.exec();
 )code";
 

@@ -16,7 +16,8 @@ namespace {
 constexpr int Limit = 10000;
 
 const auto Code = R"code(
-auto *volume = new QTarnKit::QZelIntSpinBox(this);
+auto *volume =
+    new QTarnKit::QZelIntSpinBox(this);
 volume->SetRange(0, 30);
 volume->SetValue(12);
 layout->addWidget(volume);
@@ -24,7 +25,8 @@ layout->addWidget(volume);
 // Later:
 setVolume(volume->Value());
 
-// The slider comes with the keyboard focus; by hand:
+// The slider comes with the keyboard focus;
+// by hand:
 volume->SetSliderVisable(true);
 )code";
 

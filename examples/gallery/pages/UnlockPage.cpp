@@ -13,11 +13,12 @@ namespace {
 
 const auto Code = R"code(
 notice = new ClientUnlockWidget(this);
-connect(notice, &ClientUnlockWidget::Sig_UnlockClicked,
+connect(notice,
+        &ClientUnlockWidget::Sig_UnlockClicked,
         this, &Session::unlock);
 
-// The other machine reports itself, perhaps before
-// the first screen is there:
+// The other machine reports itself, perhaps
+// before the first screen is there:
 notice->setIp(address);
 notice->ModalShow();
 

@@ -25,6 +25,7 @@ namespace {
 constexpr int PollInterval = 5; // milliseconds
 constexpr int Patience = 10000; // milliseconds
 constexpr int DragSteps = 5;
+constexpr int BoxMiddle = 12; // of a check box, from its left
 
 QWidget *topmost()
 {
@@ -33,9 +34,13 @@ QWidget *topmost()
     return QApplication::activeModalWidget();
 }
 
-QPoint middleOf(const QWidget *widget)
+// Where a finger would go: the middle, but the box of a check box, whose row may be wider than its
+// text.
+QPoint placeToClick(const QWidget *widget)
 {
-    return widget->mapToGlobal(widget->rect().center());
+    const QPoint middle = widget->rect().center();
+    return widget->mapToGlobal(widget->inherits("QCheckBox") ? QPoint(BoxMiddle, middle.y())
+                                                             : middle);
 }
 
 QModelIndex findRow(const QAbstractItemView *view, const QModelIndex &parent, const QString &text)
@@ -85,7 +90,11 @@ bool Stage::await(const std::function<bool()> &condition, const QString &what)
             return true;
         QThread::msleep(PollInterval);
     }
-    trouble(QStringLiteral("waited in vain for ") + what);
+    const QString top = text([] {
+        return topmost() ? QString::fromLatin1(topmost()->metaObject()->className())
+                         : QStringLiteral("nothing");
+    });
+    trouble(QStringLiteral("waited in vain for %1, on top: %2").arg(what, top));
     return false;
 }
 
@@ -125,7 +134,7 @@ QWidget *Stage::button(const QWidget *parent, int index)
 void Stage::click(QWidget *widget)
 {
     if (widget)
-        act([widget] { Hand::click(widget->window(), middleOf(widget)); });
+        act([widget] { Hand::click(widget->window(), placeToClick(widget)); });
 }
 
 void Stage::clickAt(QWidget *window, const QPoint &position)
@@ -137,7 +146,7 @@ void Stage::clickAt(QWidget *window, const QPoint &position)
 void Stage::doubleClick(QWidget *widget)
 {
     if (widget)
-        act([widget] { Hand::doubleClick(widget->window(), middleOf(widget)); });
+        act([widget] { Hand::doubleClick(widget->window(), placeToClick(widget)); });
 }
 
 void Stage::drag(QWidget *window, const QPoint &from, const QPoint &to)
@@ -213,8 +222,10 @@ void Stage::openMenu(QAbstractItemView *view, const QString &text)
                                              + QPoint(20, -20));
     })
                                            : row(view, text);
-    act([=] { Hand::click(view->window(), position, Qt::RightButton); });
-    window<QMenu>();
+    act([=] { Hand::press(view->window(), position, Qt::RightButton); });
+    // The press has opened the menu, so the button goes up over it.
+    if (auto *menu = window<QMenu>())
+        act([=] { Hand::release(menu, position, Qt::RightButton); });
 }
 
 void Stage::chooseAction(int index)
@@ -231,6 +242,7 @@ void Stage::chooseAction(int index)
 void Stage::openPage(int index)
 {
     auto *list = child<QListWidget>(galleryWindow, "navigation");
+    tell([this] { galleryWindow->activateWindow(); });
     const QPoint position = ask<QPoint>([&] {
         return list->viewport()->mapToGlobal(list->visualItemRect(list->item(index)).center());
     });
