@@ -77,7 +77,7 @@ void MessageBoxPage::createCustomPanel()
 {
     ControlPanel *panel = addPanel(tr("Custom buttons"));
     customTexts = panel->addText(QStringLiteral("customTexts"), tr("Texts, by \";\""),
-                                 tr("Keep both;Replace;Skip"));
+                                 tr("Replace;Keep both"));
     QPushButton *run = panel->addButton(QStringLiteral("execCustom"), QStringLiteral("exec()"));
     connect(run, &QPushButton::clicked, this, &MessageBoxPage::runCustom);
     panel->addNote(tr("A custom button leaves the box open: whoever listens closes it."));

@@ -51,8 +51,10 @@ void checkResult(Stage &stage, const QString &name, const char *call, const QStr
 
 void openMachineFile(Stage &stage)
 {
+    auto *filters = stage.control<QLineEdit>("filters");
+    const QString own = stage.text([=] { return filters->text(); });
     stage.fill("startFolder", QStringLiteral("/etc"));
-    stage.fill("filters", QStringLiteral("All (*)"));
+    stage.fill("filters", QStringLiteral("*"));
     stage.clickControl("openOne");
     auto *dialog = stage.window<QZelFileDialog>();
     stage.clickRow(listing(stage, dialog), QStringLiteral("os-release"));
@@ -61,12 +63,12 @@ void openMachineFile(Stage &stage)
     pressOpenSave(stage, dialog);
     checkResult(stage, QStringLiteral("file of this machine opened"), "getOpenFileName",
                 QStringLiteral("/etc/os-release"));
+    stage.tell([=] { filters->setText(own); });
 }
 
 void openOne(Stage &stage, const QString &folder)
 {
     stage.fill("startFolder", folder);
-    stage.fill("filters", QStringLiteral("Text (*.txt);;Images (*.png *.jpg);;All (*)"));
     stage.clickControl("openOne");
     auto *dialog = stage.window<QZelFileDialog>();
     QTreeView *list = listing(stage, dialog);
@@ -116,6 +118,14 @@ void changeFilter(Stage &stage, const QString &folder)
 {
     stage.clickControl("openOne");
     auto *dialog = stage.window<QZelFileDialog>();
+    auto *strip = stage.child<QWidget>(dialog, "wgt_TitleBar");
+    const QPoint start = stage.ask<QPoint>([=] { return dialog->pos(); });
+    const QPoint grip = stage.ask<QPoint>([=] { return strip->mapToGlobal(QPoint(300, 16)); });
+    stage.drag(dialog, grip, grip + QPoint(-220, 20));
+    stage.step(QStringLiteral("file dialog dragged by its strip"),
+               stage.ask<QPoint>([=] { return dialog->pos(); }) == start + QPoint(-220, 20),
+               QStringLiteral("by -220, 20"), { dialog });
+
     auto *types = stage.child<QComboBox>(dialog, "cbx_FileType");
     stage.click(types);
     auto *popup = stage.ask<QWidget *>([=] { return types->view()->window(); });
@@ -199,7 +209,7 @@ void startNowhere(Stage &stage)
     stage.await([=] { return list && list->model()->rowCount(list->rootIndex()) > 0; },
                 QStringLiteral("a listing"));
     stage.step(QStringLiteral("open from a missing folder"), dialog,
-               QStringLiteral("lists the top of the file system"), { dialog });
+               QStringLiteral("lists something to go on from"), { dialog });
     stage.click(stage.child<QWidget>(dialog, "btn_Cancel"));
     checkResult(stage, QStringLiteral("open cancelled"), "getOpenFileName", QString());
     stage.choose("startKind", 0);

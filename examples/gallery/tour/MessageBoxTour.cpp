@@ -43,7 +43,7 @@ void useCustomButtons(Stage &stage)
 {
     stage.clickControl("execCustom");
     auto *box = stage.window<QUIMessageBox>();
-    stage.step(QStringLiteral("message box custom buttons"), box, QStringLiteral("three buttons"),
+    stage.step(QStringLiteral("message box custom buttons"), box, QStringLiteral("two buttons"),
                { box });
     stage.click(stage.button(box, 1));
     stage.await([] { return !QApplication::activeModalWidget(); }, QStringLiteral("the box to go"));

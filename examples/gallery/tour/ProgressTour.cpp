@@ -7,8 +7,8 @@
 
 #include <QImage>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPixmap>
-#include <QSlider>
 
 namespace {
 
@@ -54,8 +54,10 @@ void copyFile(Stage &stage)
 
 void showWithoutBar(Stage &stage)
 {
-    stage.fill("message", QStringLiteral("A long message wraps, and the box grows with it: the "
-                                         "device is writing its settings to the storage."));
+    // A long message wraps and the box grows with it.
+    auto *message = stage.control<QLineEdit>("message");
+    auto *sentence = stage.control<QLabel>("pageSentence");
+    stage.tell([=] { message->setText(sentence->text()); });
     stage.clickControl("barVisible");
     stage.clickControl("showWaiting");
     auto *dialog = stage.window<QWaitingDialog>();

@@ -474,12 +474,12 @@ Double-click the strip to maximise me.</source>
         <translation>文字（以“;”分隔）</translation>
     </message>
     <message>
-        <source>Keep both;Replace;Skip</source>
-        <translation>全部保留;替换;跳过</translation>
-    </message>
-    <message>
         <source>A custom button leaves the box open: whoever listens closes it.</source>
         <translation>自定义按钮不会关闭消息框，由接收信号的一方关闭。</translation>
+    </message>
+    <message>
+        <source>Replace;Keep both</source>
+        <translation>替换;全部保留</translation>
     </message>
 </context>
 <context>

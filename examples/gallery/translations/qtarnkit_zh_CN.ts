@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Client is unlocked,Please unlock</source>
-        <translation>本客户端已被其他机器抢占，请解锁。</translation>
+        <translation>本客户端已被其他机器抢占。</translation>
     </message>
     <message>
         <source>Preempt machine ip:</source>
