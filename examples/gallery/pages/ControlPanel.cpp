@@ -113,7 +113,7 @@ void ControlPanel::addNote(const QString &text)
 void ControlPanel::addRow(const QString &label, QWidget *control)
 {
     openButtonRow = nullptr;
-    control->setMinimumHeight(FingerHeight);
+    control->setMinimumHeight(qMax(FingerHeight, control->minimumSizeHint().height()));
     if (label.isEmpty()) {
         column->addWidget(control);
         return;

@@ -68,7 +68,7 @@ void FileDialogPage::createArgumentsPanel()
 {
     ControlPanel *panel = addPanel(tr("Arguments"));
     caption = panel->addText(QStringLiteral("caption"), tr("Caption"), QString());
-    caption->setPlaceholderText(tr("by the function"));
+    caption->setPlaceholderText(tr("(by the function)"));
     filters = panel->addText(QStringLiteral("filters"), tr("Filters"),
                              tr("Text (*.txt);;Images (*.png *.jpg);;All (*)"));
     encrypt = panel->addCheck(QStringLiteral("encrypt"), tr("Save with the password option"));

@@ -16,6 +16,7 @@ namespace {
 
 constexpr QMargins PageMargins(18, 12, 18, 12);
 constexpr int CodeWidth = 390;
+constexpr int WidthForCode = 740;
 constexpr int FingerHeight = 36;
 
 } // namespace
@@ -33,7 +34,8 @@ GalleryPage::GalleryPage(SignalLog *log, QWidget *parent)
     auto *columns = new QHBoxLayout;
     columns->setSpacing(14);
     columns->addWidget(createControls(), 1);
-    columns->addWidget(createCodePane());
+    createCodePane();
+    columns->addWidget(codePane);
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(PageMargins);
@@ -76,6 +78,12 @@ void GalleryPage::report(const QString &source, const QString &what, const QStri
     log->add(source, what, value);
 }
 
+void GalleryPage::resizeEvent(QResizeEvent *event)
+{
+    codePane->setVisible(width() >= WidthForCode);
+    QWidget::resizeEvent(event);
+}
+
 QWidget *GalleryPage::createControls()
 {
     auto *area = new QScrollArea(this);
@@ -91,18 +99,18 @@ QWidget *GalleryPage::createControls()
     return area;
 }
 
-QWidget *GalleryPage::createCodePane()
+void GalleryPage::createCodePane()
 {
-    auto *pane = new QFrame(this);
-    pane->setObjectName(QStringLiteral("codePane"));
-    pane->setFixedWidth(CodeWidth);
+    codePane = new QFrame(this);
+    codePane->setObjectName(QStringLiteral("codePane"));
+    codePane->setFixedWidth(CodeWidth);
 
-    auto *caption = new QLabel(tr("The same in code"), pane);
+    auto *caption = new QLabel(tr("The same in code"), codePane);
     caption->setObjectName(QStringLiteral("panelHeading"));
-    auto *copy = new QPushButton(tr("Copy"), pane);
+    auto *copy = new QPushButton(tr("Copy"), codePane);
     copy->setObjectName(QStringLiteral("copyCode"));
     copy->setMinimumHeight(FingerHeight);
-    code = new QPlainTextEdit(pane);
+    code = new QPlainTextEdit(codePane);
     code->setObjectName(QStringLiteral("code"));
     code->setReadOnly(true);
     code->setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -112,9 +120,8 @@ QWidget *GalleryPage::createCodePane()
     auto *top = new QHBoxLayout;
     top->addWidget(caption, 1);
     top->addWidget(copy);
-    auto *column = new QVBoxLayout(pane);
+    auto *column = new QVBoxLayout(codePane);
     column->setContentsMargins(14, 8, 8, 8);
     column->addLayout(top);
     column->addWidget(code, 1);
-    return pane;
 }

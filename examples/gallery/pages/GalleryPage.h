@@ -34,14 +34,18 @@ protected:
     /// Writes a line of the log: which class, which signal or call, what came of it.
     void report(const QString &source, const QString &what, const QString &value = QString());
 
+    /// Leaves the code out where it would take the room of the controls.
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     QWidget *createControls();
-    QWidget *createCodePane();
+    void createCodePane();
 
     SignalLog *log = nullptr;
     QLabel *heading = nullptr;
     QLabel *sentence = nullptr;
     QVBoxLayout *panels = nullptr;
+    QWidget *codePane = nullptr;
     QPlainTextEdit *code = nullptr;
 };
 

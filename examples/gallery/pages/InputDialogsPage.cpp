@@ -98,7 +98,7 @@ void InputDialogsPage::createPasswordPanels()
     rightPassword = ask->addText(QStringLiteral("rightPassword"), tr("The right one"),
                                  QStringLiteral("abc123"));
     inputTitle = ask->addText(QStringLiteral("inputTitle"), tr("Caption"), QString());
-    inputTitle->setPlaceholderText(tr("the dialog's own"));
+    inputTitle->setPlaceholderText(tr("(the dialog's own)"));
     tipText = ask->addText(QStringLiteral("tipText"), tr("Placeholder"), tr("Letters and digits"));
     QPushButton *runAsk =
             ask->addButton(QStringLiteral("execPassword"), tr("Ask for the password"));
@@ -109,7 +109,7 @@ void InputDialogsPage::createFolderNamePanel()
 {
     ControlPanel *panel = addPanel(QStringLiteral("QZelFolderNameDialog"));
     prompt = panel->addText(QStringLiteral("prompt"), tr("Prompt"), QString());
-    prompt->setPlaceholderText(tr("the dialog's own"));
+    prompt->setPlaceholderText(tr("(the dialog's own)"));
     folderName = panel->addText(QStringLiteral("folderName"), tr("Name"), tr("New folder"));
     QPushButton *run = panel->addButton(QStringLiteral("execFolderName"), tr("Ask for the name"));
     connect(run, &QPushButton::clicked, this, &InputDialogsPage::runFolderName);

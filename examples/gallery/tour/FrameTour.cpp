@@ -102,6 +102,19 @@ void useTitleBar(Stage &stage, DemoWindow *demo)
                { stage.gallery() });
 }
 
+void maximizeGallery(Stage &stage)
+{
+    auto *strip = stage.child<QWidget>(stage.gallery(), "wgt_TitleBar");
+    const QRect normal = geometryOf(stage, stage.gallery());
+    stage.doubleClick(strip);
+    stage.step(QStringLiteral("gallery maximised by its strip"),
+               stage.holds([&] { return stage.gallery()->isMaximized(); }),
+               rectText(geometryOf(stage, stage.gallery())), { stage.gallery() });
+    stage.click(stage.child<QToolButton>(stage.gallery(), "btn_Max"));
+    stage.step(QStringLiteral("gallery restored by its button"),
+               geometryOf(stage, stage.gallery()) == normal, rectText(normal), { stage.gallery() });
+}
+
 void switchAppearance(Stage &stage)
 {
     auto *style = stage.child<QToolButton>(stage.gallery(), "btn_Style");
@@ -128,5 +141,6 @@ void Families::frame(Stage &stage)
         dragWindow(stage, demo);
         useTitleBar(stage, demo);
     }
+    maximizeGallery(stage);
     switchAppearance(stage);
 }

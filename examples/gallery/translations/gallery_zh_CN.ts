@@ -63,10 +63,6 @@ Double-click the strip to maximise me.</source>
         <translation>标题</translation>
     </message>
     <message>
-        <source>by the function</source>
-        <translation>由函数决定</translation>
-    </message>
-    <message>
         <source>Filters</source>
         <translation>过滤器</translation>
     </message>
@@ -139,6 +135,10 @@ Double-click the strip to maximise me.</source>
         <translation>
             <numerusform>%n 个字符</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>(by the function)</source>
+        <translation>（由函数决定）</translation>
     </message>
 </context>
 <context>
@@ -354,10 +354,6 @@ Double-click the strip to maximise me.</source>
         <translation>标题</translation>
     </message>
     <message>
-        <source>the dialog&apos;s own</source>
-        <translation>对话框默认</translation>
-    </message>
-    <message>
         <source>Placeholder</source>
         <translation>占位文字</translation>
     </message>
@@ -402,6 +398,10 @@ Double-click the strip to maximise me.</source>
     <message>
         <source>Wrong password</source>
         <translation>密码错误</translation>
+    </message>
+    <message>
+        <source>(the dialog&apos;s own)</source>
+        <translation>（对话框默认）</translation>
     </message>
 </context>
 <context>

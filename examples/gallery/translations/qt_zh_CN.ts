@@ -114,11 +114,4 @@
         <translation>全选</translation>
     </message>
 </context>
-<context>
-    <name>QLocale</name>
-    <message>
-        <source>%1 bytes</source>
-        <translation>%1 字节</translation>
-    </message>
-</context>
 </TS>
