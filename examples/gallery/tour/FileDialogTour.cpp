@@ -18,12 +18,6 @@ using QTarnKit::QUIMessageBox;
 
 namespace {
 
-bool awaitEnd(Stage &stage)
-{
-    return stage.await([] { return !QApplication::activeModalWidget(); },
-                       QStringLiteral("the dialog to go"));
-}
-
 QTreeView *listing(Stage &stage, const QWidget *dialog)
 {
     return stage.child<QTreeView>(dialog, "treeV_FileList");
@@ -44,7 +38,7 @@ void answer(Stage &stage, const QString &name, int button, QWidget *below)
 
 void checkResult(Stage &stage, const QString &name, const char *call, const QString &expected)
 {
-    awaitEnd(stage);
+    stage.awaitEnd();
     const QString result = stage.logged(call);
     stage.step(name, result == expected, result, { stage.gallery() });
 }
@@ -72,15 +66,15 @@ void openOne(Stage &stage, const QString &folder)
     stage.clickControl("openOne");
     auto *dialog = stage.window<QZelFileDialog>();
     QTreeView *list = listing(stage, dialog);
-    stage.row(list, QStringLiteral("notes.txt"));
+    stage.awaitRow(list, QStringLiteral("notes.txt"));
     stage.step(QStringLiteral("open a file"), dialog, QStringLiteral("only text files"), { dialog });
 
     stage.doubleClickRow(list, QStringLiteral("projects"));
-    stage.row(list, QStringLiteral("plan.txt"));
+    stage.awaitRow(list, QStringLiteral("plan.txt"));
     stage.step(QStringLiteral("open in a folder below"), true, QStringLiteral("/projects/"),
                { dialog });
     stage.click(stage.child<QWidget>(dialog, "btn_Back"));
-    stage.row(list, QStringLiteral("notes.txt"));
+    stage.awaitRow(list, QStringLiteral("notes.txt"));
 
     auto *name = stage.child<QLineEdit>(dialog, "let_FileName");
     stage.type(name, QStringLiteral("missing"));
@@ -90,7 +84,7 @@ void openOne(Stage &stage, const QString &folder)
     auto *path = stage.child<QLineEdit>(dialog, "let_FilePath");
     stage.type(path, QStringLiteral("/projects"));
     stage.key(dialog, Qt::Key_Return);
-    stage.row(list, QStringLiteral("plan.txt"));
+    stage.awaitRow(list, QStringLiteral("plan.txt"));
     stage.step(QStringLiteral("open a typed path"), true, QStringLiteral("/projects"), { dialog });
     stage.click(stage.child<QWidget>(dialog, "btn_MainPage"));
 
@@ -147,8 +141,7 @@ void saveOver(Stage &stage, const QString &folder)
     stage.step(QStringLiteral("save"), dialog, QStringLiteral("report"), { dialog });
     pressOpenSave(stage, dialog);
     answer(stage, QStringLiteral("save over a file no"), 1, dialog);
-    stage.await([=] { return QApplication::activeModalWidget() == dialog; },
-                QStringLiteral("the dialog to stay"));
+    stage.awaitTop(dialog);
     pressOpenSave(stage, dialog);
     answer(stage, QStringLiteral("save over a file yes"), 0, dialog);
     checkResult(stage, QStringLiteral("file saved over another"), "getSaveFileName",
@@ -181,8 +174,7 @@ void saveEncrypted(Stage &stage, const QString &folder)
                stage.text([=] { return error->text(); }), { dialog, password });
     typePasswords(stage, password, QStringLiteral("abc123"));
     answer(stage, QStringLiteral("save with a password repeated"), 0, dialog);
-    stage.await([=] { return QApplication::activeModalWidget() == dialog; },
-                QStringLiteral("the box to go"));
+    stage.awaitTop(dialog);
     pressOpenSave(stage, dialog);
     checkResult(stage, QStringLiteral("file saved with a password"), "getSaveFileName",
                 folder + QStringLiteral("/secret.txt"));

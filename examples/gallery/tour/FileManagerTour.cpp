@@ -29,8 +29,7 @@ void deleteTree(Stage &stage, QWidget *manager, const QString &folder)
     stage.step(QStringLiteral("file manager asks before deleting"), box, QStringLiteral("asked"),
                { manager, box });
     stage.click(stage.button(box, 1));
-    stage.await([=] { return QApplication::activeModalWidget() == manager; },
-                QStringLiteral("the box to go"));
+    stage.awaitTop(manager);
     stage.step(QStringLiteral("file manager keeps on no"), exists(folder, "old/a/deep.txt"),
                QStringLiteral("old is there"), { manager });
 
@@ -38,8 +37,7 @@ void deleteTree(Stage &stage, QWidget *manager, const QString &folder)
     stage.click(stage.button(stage.window<QUIMessageBox>(), 0));
     const bool gone =
             stage.await([&] { return !exists(folder, "old"); }, QStringLiteral("the tree to go"));
-    stage.await([=] { return QApplication::activeModalWidget() == manager; },
-                QStringLiteral("the box to go"));
+    stage.awaitTop(manager);
     stage.step(QStringLiteral("file manager deleted a tree"),
                gone && exists(folder, "reports/week-1.txt"), QStringLiteral("old is gone"),
                { manager });
@@ -51,18 +49,17 @@ void useManager(Stage &stage, const QString &folder)
     stage.clickControl("openManager");
     auto *manager = stage.window<QZelFileManagerWidget>();
     auto *list = stage.child<QListView>(manager, "listV_FileList");
-    stage.row(list, QStringLiteral("reports"));
+    stage.awaitRow(list, QStringLiteral("reports"));
     stage.step(QStringLiteral("file manager"), manager, folder, { manager });
     stage.doubleClickRow(list, QStringLiteral("reports"));
-    stage.row(list, QStringLiteral("week-1.txt"));
+    stage.awaitRow(list, QStringLiteral("week-1.txt"));
     stage.step(QStringLiteral("file manager in a folder"), manager, QStringLiteral("reports"),
                { manager });
     stage.click(stage.child<QWidget>(manager, "btn_UpPage"));
-    stage.row(list, QStringLiteral("reports"));
+    stage.awaitRow(list, QStringLiteral("reports"));
     deleteTree(stage, manager, folder);
     stage.click(stage.child<QWidget>(manager, "btn_Close"));
-    stage.await([] { return !QApplication::activeModalWidget(); },
-                QStringLiteral("the file manager to go"));
+    stage.awaitEnd();
 }
 
 // The fixed folder is the one where the file dialog remembers the last choice.
@@ -76,13 +73,12 @@ void openFromFixedFolder(Stage &stage, const QString &folder)
         auto *list = stage.child<QTreeView>(dialog, "treeV_FileList");
         if (round == 0)
             stage.doubleClickRow(list, QStringLiteral("reports"));
-        stage.row(list, QStringLiteral("week-2.txt"));
+        stage.awaitRow(list, QStringLiteral("week-2.txt"));
         stage.step(round == 0 ? QStringLiteral("open from the FTP folder")
                               : QStringLiteral("open remembers the last folder"),
                    dialog, QStringLiteral("/reports/"), { dialog });
         stage.doubleClickRow(list, QStringLiteral("week-2.txt"));
-        stage.await([] { return !QApplication::activeModalWidget(); },
-                    QStringLiteral("the dialog to go"));
+        stage.awaitEnd();
     }
     const QString opened = stage.logged("getOpenFileName");
     stage.step(QStringLiteral("file of the FTP folder opened"),

@@ -21,8 +21,7 @@ void giveName(Stage &stage, const QString &picture, const QString &name, QWidget
     stage.type(dialog->let_FolderName, name);
     stage.step(picture, true, name, { below, dialog });
     stage.click(stage.button(stage.child<QWidget>(dialog, "wgt_Bottom"), 0));
-    stage.await([=] { return QApplication::activeModalWidget() == below; },
-                QStringLiteral("the name dialog to go"));
+    stage.awaitTop(below);
 }
 
 void pictureMenu(Stage &stage, const QString &name, int actions, QWidget *dialog)
@@ -48,7 +47,7 @@ void Families::fileMenu(Stage &stage)
     pictureMenu(stage, QStringLiteral("menu of the free area"), 1, dialog);
     stage.chooseAction(0);
     giveName(stage, QStringLiteral("new folder"), QStringLiteral("fresh"), dialog);
-    stage.row(tree, QStringLiteral("fresh"));
+    stage.awaitRow(tree, QStringLiteral("fresh"));
     stage.step(QStringLiteral("folder made"), samples.has(QStringLiteral("fresh")),
                QStringLiteral("fresh"), { dialog });
 
@@ -56,7 +55,7 @@ void Families::fileMenu(Stage &stage)
     pictureMenu(stage, QStringLiteral("menu of a folder"), 3, dialog);
     stage.chooseAction(1);
     giveName(stage, QStringLiteral("rename folder"), QStringLiteral("renamed"), dialog);
-    stage.row(tree, QStringLiteral("renamed"));
+    stage.awaitRow(tree, QStringLiteral("renamed"));
     stage.step(QStringLiteral("folder renamed"),
                samples.has(QStringLiteral("renamed")) && !samples.has(QStringLiteral("fresh")),
                QStringLiteral("renamed"), { dialog });
@@ -72,10 +71,9 @@ void Families::fileMenu(Stage &stage)
     pictureMenu(stage, QStringLiteral("menu of a file"), 1, dialog);
     stage.chooseAction(0);
     giveName(stage, QStringLiteral("rename file"), QStringLiteral("memo.doc"), dialog);
-    stage.row(list, QStringLiteral("memo.txt"));
+    stage.awaitRow(list, QStringLiteral("memo.txt"));
     stage.step(QStringLiteral("file renamed and suffix kept"),
                samples.has(QStringLiteral("memo.txt")), QStringLiteral("memo.txt"), { dialog });
     stage.click(stage.child<QWidget>(dialog, "btn_Cancel"));
-    stage.await([] { return !QApplication::activeModalWidget(); },
-                QStringLiteral("the dialog to go"));
+    stage.awaitEnd();
 }

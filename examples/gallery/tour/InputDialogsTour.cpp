@@ -13,12 +13,6 @@
 
 namespace {
 
-bool awaitEnd(Stage &stage)
-{
-    return stage.await([] { return !QApplication::activeModalWidget(); },
-                       QStringLiteral("the dialog to go"));
-}
-
 QWidget *confirm(Stage &stage, QWidget *dialog)
 {
     return stage.button(stage.child<QWidget>(dialog, "wgt_Bottom"), 0);
@@ -56,7 +50,7 @@ void useShell(Stage &stage)
     stage.step(QStringLiteral("shell dialog restored"), restored, QStringLiteral("as before"),
                { dialog });
     stage.click(confirm(stage, dialog));
-    awaitEnd(stage);
+    stage.awaitEnd();
     stage.step(QStringLiteral("shell dialog confirmed"),
                stage.logged("exec") == QLatin1String("1 (Accepted)"), stage.logged("exec"),
                { stage.gallery() });
@@ -87,7 +81,7 @@ void setPassword(Stage &stage)
     stage.step(QStringLiteral("set password shown in clear"), clear, QStringLiteral("abc123"),
                { dialog });
     stage.click(confirm(stage, dialog));
-    awaitEnd(stage);
+    stage.awaitEnd();
 }
 
 void askPassword(Stage &stage)
@@ -105,7 +99,7 @@ void askPassword(Stage &stage)
                message, { dialog });
     stage.type(dialog->let_Pwd, QStringLiteral("abc123"));
     stage.click(confirm(stage, dialog));
-    awaitEnd(stage);
+    stage.awaitEnd();
     stage.step(QStringLiteral("password right"),
                stage.logged("exec") == QLatin1String("1 (Accepted)"), stage.logged("exec"),
                { stage.gallery() });
@@ -125,7 +119,7 @@ void askFolderName(Stage &stage)
                { dialog });
     stage.type(dialog->let_FolderName, QStringLiteral("Reports"));
     stage.click(confirm(stage, dialog));
-    awaitEnd(stage);
+    stage.awaitEnd();
     stage.step(QStringLiteral("folder name confirmed"),
                stage.logged("exec") == QLatin1String("Reports"), stage.logged("exec"),
                { stage.gallery() });

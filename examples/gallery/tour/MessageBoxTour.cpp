@@ -30,9 +30,7 @@ void showTypes(Stage &stage)
         stage.step(QStringLiteral("message box ") + QLatin1String(type.name), box,
                    QStringLiteral("shown"), { box });
         stage.click(stage.button(box, type.button));
-        stage.await(
-                [&] { return stage.gallery()->isEnabled() && !QApplication::activeModalWidget(); },
-                QStringLiteral("the box to go"));
+        stage.awaitEnd();
         const QString result = stage.logged("exec");
         if (result != QLatin1String(type.result))
             stage.trouble(QStringLiteral("exec() returned ") + result);
@@ -46,7 +44,7 @@ void useCustomButtons(Stage &stage)
     stage.step(QStringLiteral("message box custom buttons"), box, QStringLiteral("two buttons"),
                { box });
     stage.click(stage.button(box, 1));
-    stage.await([] { return !QApplication::activeModalWidget(); }, QStringLiteral("the box to go"));
+    stage.awaitEnd();
     stage.step(QStringLiteral("custom button clicked"),
                stage.logged("CustBtnClicked") == QLatin1String("1"), stage.logged("CustBtnClicked"),
                { stage.gallery() });
@@ -59,16 +57,16 @@ void useStandardButtons(Stage &stage)
     stage.step(QStringLiteral("message box confirm and cancel"), box, QStringLiteral("two buttons"),
                { box });
     stage.click(stage.button(box, 1));
-    stage.await([] { return !QApplication::activeModalWidget(); }, QStringLiteral("the box to go"));
+    stage.awaitEnd();
 }
 
 void useCountdown(Stage &stage)
 {
     stage.choose("boxType", 4);
-    stage.fill("countdown", QStringLiteral("1"));
+    stage.fill("countdown", QStringLiteral("2"));
     stage.clickControl("showInstance");
     auto *box = stage.window<QUIMessageBox>();
-    stage.step(QStringLiteral("message box with countdown"), box, QStringLiteral("one second"),
+    stage.step(QStringLiteral("message box with countdown"), box, QStringLiteral("two seconds"),
                { box });
     const bool gone = stage.await([] { return !QUIMessageBox::Instance()->isVisible(); },
                                   QStringLiteral("the countdown"));

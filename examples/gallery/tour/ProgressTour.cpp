@@ -71,11 +71,9 @@ void useCustomBar(Stage &stage)
     stage.clickControl("showCustom");
     auto *bar = stage.window<CustomProgressBar>();
     stage.step(QStringLiteral("custom progress bar"), bar, QStringLiteral("40 %"), { bar });
-    stage.await([] { return !QApplication::activeModalWidget(); }, QStringLiteral("it to go"));
+    stage.awaitEnd();
     stage.clickControl("runCustom");
-    const bool ran = stage.window<CustomProgressBar>()
-                     && stage.await([] { return !QApplication::activeModalWidget(); },
-                                    QStringLiteral("it to reach the end"));
+    const bool ran = stage.window<CustomProgressBar>() && stage.awaitEnd();
     stage.step(QStringLiteral("custom progress bar run to the end"), ran, QStringLiteral("closed"),
                { stage.gallery() });
 }

@@ -37,7 +37,7 @@ void useNotice(Stage &stage)
     auto *notice = stage.window<ClientUnlockWidget>();
     stage.step(QStringLiteral("unlock notice"), notice, stage.logged("ModalShow"), { notice });
     stage.click(stage.button(notice, 0));
-    stage.await([] { return !QApplication::activeModalWidget(); }, QStringLiteral("it to go"));
+    stage.awaitEnd();
     stage.step(QStringLiteral("unlock clicked"),
                stage.logged("Sig_UnlockClicked") == QLatin1String("1"),
                stage.logged("Sig_UnlockClicked"), { stage.gallery() });

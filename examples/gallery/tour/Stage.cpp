@@ -24,6 +24,7 @@ namespace {
 
 constexpr int PollInterval = 5; // milliseconds
 constexpr int Patience = 10000; // milliseconds
+constexpr int CalmPolls = 10;
 constexpr int DragSteps = 5;
 constexpr int BoxMiddle = 12; // of a check box, from its left
 
@@ -58,6 +59,14 @@ QModelIndex findRow(const QAbstractItemView *view, const QModelIndex &parent, co
         }
     }
     return QModelIndex();
+}
+
+// The middle of a row on the screen, with the row in sight.
+QPoint placeOfRow(QAbstractItemView *view, const QString &text)
+{
+    const QModelIndex index = findRow(view, view->rootIndex(), text);
+    view->scrollTo(index);
+    return view->viewport()->mapToGlobal(view->visualRect(index).center());
 }
 
 } // namespace
@@ -96,6 +105,21 @@ bool Stage::await(const std::function<bool()> &condition, const QString &what)
     });
     trouble(QStringLiteral("waited in vain for %1, on top: %2").arg(what, top));
     return false;
+}
+
+bool Stage::awaitEnd()
+{
+    const bool ended = await([] { return !QApplication::activeModalWidget(); },
+                             QStringLiteral("the dialog to go"));
+    if (!ended)
+        clear();
+    return ended;
+}
+
+bool Stage::awaitTop(const QWidget *window)
+{
+    return await([=] { return QApplication::activeModalWidget() == window; },
+                 QStringLiteral("the window above to go"));
 }
 
 QWidget *Stage::findChild(const QWidget *parent, const QString &name, const char *className)
@@ -180,48 +204,43 @@ void Stage::key(QWidget *window, Qt::Key key, Qt::KeyboardModifiers modifiers)
         act([=] { Hand::key(window, key, modifiers); });
 }
 
-QPoint Stage::row(QAbstractItemView *view, const QString &text)
+bool Stage::awaitRow(QAbstractItemView *view, const QString &text)
 {
-    QPoint position;
-    if (!view)
-        return position;
-    await(
-            [&] {
-                const QModelIndex index = findRow(view, view->rootIndex(), text);
-                if (!index.isValid())
-                    return false;
-                view->scrollTo(index);
-                const QRect rect = view->visualRect(index);
-                position = view->viewport()->mapToGlobal(rect.center());
-                return rect.isValid();
-            },
-            QStringLiteral("the row ") + text);
-    return position;
+    // A listing fills in bit by bit, and its rows move meanwhile.
+    int rows = 0;
+    int calmPolls = 0;
+    return view
+           && await(
+                   [&] {
+                       const int now = view->model()->rowCount(view->rootIndex());
+                       calmPolls = now == rows ? calmPolls + 1 : 0;
+                       rows = now;
+                       return calmPolls >= CalmPolls
+                              && findRow(view, view->rootIndex(), text).isValid();
+                   },
+                   QStringLiteral("the row ") + text);
 }
 
 void Stage::clickRow(QAbstractItemView *view, const QString &text)
 {
-    const QPoint position = row(view, text);
-    if (!position.isNull())
-        clickAt(view->window(), position);
+    if (awaitRow(view, text))
+        act([=] { Hand::click(view->window(), placeOfRow(view, text)); });
 }
 
 void Stage::doubleClickRow(QAbstractItemView *view, const QString &text)
 {
-    const QPoint position = row(view, text);
-    if (!position.isNull())
-        act([=] { Hand::doubleClick(view->window(), position); });
+    if (awaitRow(view, text))
+        act([=] { Hand::doubleClick(view->window(), placeOfRow(view, text)); });
 }
 
 void Stage::openMenu(QAbstractItemView *view, const QString &text)
 {
-    if (!view)
+    if (!view || (!text.isEmpty() && !awaitRow(view, text)))
         return;
-    const QPoint position = text.isEmpty() ? ask<QPoint>([&] {
-        return view->viewport()->mapToGlobal(view->viewport()->rect().bottomLeft()
-                                             + QPoint(20, -20));
-    })
-                                           : row(view, text);
+    const QPoint position = ask<QPoint>([&] {
+        const QPoint free = view->viewport()->rect().bottomLeft() + QPoint(20, -20);
+        return text.isEmpty() ? view->viewport()->mapToGlobal(free) : placeOfRow(view, text);
+    });
     act([=] { Hand::press(view->window(), position, Qt::RightButton); });
     // The press has opened the menu, so the button goes up over it.
     if (auto *menu = window<QMenu>())

@@ -43,6 +43,12 @@ public:
     /// Waits until something holds, at most ten seconds; a false result is noted as trouble.
     bool await(const std::function<bool()> &condition, const QString &what);
 
+    /// Waits until no modal window is left; closes those that do not go.
+    bool awaitEnd();
+
+    /// Waits until this modal window is on top again.
+    bool awaitTop(const QWidget *window);
+
     /// Waits for a visible window of a class.
     template <typename Window>
     Window *window()
@@ -73,8 +79,8 @@ public:
     void type(QWidget *edit, const QString &text);
     void key(QWidget *window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
-    /// Waits until a view shows a row of this text; then scrolls to it and returns its middle.
-    QPoint row(QAbstractItemView *view, const QString &text);
+    /// Waits until a view has filled and shows a row of this text.
+    bool awaitRow(QAbstractItemView *view, const QString &text);
     void clickRow(QAbstractItemView *view, const QString &text);
     void doubleClickRow(QAbstractItemView *view, const QString &text);
     /// Opens the context menu of a row, or of the free area below all rows for an empty text.

@@ -45,6 +45,11 @@ int Tour::run()
         out << "FAIL the folder " << folder << " cannot be made\n";
         return 1;
     }
+    QDir earlier(folder);
+    const QStringList old = earlier.entryList({ QStringLiteral("[0-9][0-9]-*.png") });
+    for (const QString &picture : old)
+        earlier.remove(picture);
+
     nextHandler = qInstallMessageHandler(countWarning);
     // Blinking cursors would make the pictures differ from run to run.
     QApplication::setCursorFlashTime(0);
