@@ -16,7 +16,7 @@ class TitleStrip : public QWidget
 public:
     explicit TitleStrip(QWidget *parent = nullptr);
 
-    /// Sets the texts in the present language; @p languageName is the one that the button changes to.
+    /// Sets the texts in the present language; the button offers @p languageName.
     void retranslate(const QString &languageName);
 
     /// Turns the maximise button into the restore button and back.

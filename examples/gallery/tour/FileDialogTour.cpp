@@ -67,7 +67,7 @@ void openOne(Stage &stage, const QString &folder)
     auto *dialog = stage.window<QZelFileDialog>();
     QTreeView *list = listing(stage, dialog);
     stage.awaitRow(list, QStringLiteral("notes.txt"));
-    stage.step(QStringLiteral("open a file"), dialog, QStringLiteral("only text files"), { dialog });
+    stage.step(QStringLiteral("open a file"), dialog, QStringLiteral("text files"), { dialog });
 
     stage.doubleClickRow(list, QStringLiteral("projects"));
     stage.awaitRow(list, QStringLiteral("plan.txt"));
