@@ -46,7 +46,7 @@ int Tour::run()
         return 1;
     }
     QDir earlier(folder);
-    const QStringList old = earlier.entryList({ QStringLiteral("[0-9][0-9]-*.png") });
+    const QStringList old = earlier.entryList({ QStringLiteral("[0-9]*-*.png") });
     for (const QString &picture : old)
         earlier.remove(picture);
 
