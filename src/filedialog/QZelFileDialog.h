@@ -147,7 +147,8 @@ Q_SIGNALS:
     /// One path was chosen, just before accept(); not for a file replaced through the button.
     void sig_filePath(QString path);
 
-    /// Once for each selected file as the selection changes, with the files up to it.
+    /// Once for each selected file as the selection changes, with the files up to it. A receiver
+    /// that wants the dialog gone uses deleteLater(): the selection is still being walked.
     void sig_filePaths(QStringList paths);
 
 protected:
