@@ -173,6 +173,7 @@ int main(int argc, char **argv)
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setCursorFlashTime(0); // a blink would count into whatever runs then
 
     QCommandLineParser parser;
     parser.setApplicationDescription(

@@ -4,8 +4,9 @@
 #include "common/TitleDrag.h"
 #include "dialogs/QZelEncDialog.h"
 #include "filedialog/ColumnToolTipDelegate.h"
-#include "filedialog/DirItemStyledDelegate.h"
 #include "filedialog/FileNameRules.h"
+#include "filedialog/FolderTreeDelegate.h"
+#include "filedialog/ListingModel.h"
 
 #include "ui_QZelFileDialog.h"
 
@@ -146,7 +147,7 @@ void QZelFileDialog::expandedPath()
 
 void QZelFileDialog::construct(const QString &caption, const QString &dir)
 {
-    fileModel = new QFileSystemModel(this);
+    fileModel = new ListingModel(this);
     ui = new Ui_QZelFileDialogClass;
 
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
@@ -212,11 +213,11 @@ void QZelFileDialog::initViews()
     list->setAttribute(Qt::WA_MouseTracking, true);
     list->viewport()->setAttribute(Qt::WA_Hover, true);
 
-    QTreeView *tree = ui->treeV_FileTree;
+    FolderTree *tree = ui->treeV_FileTree;
     tree->setModel(fileModel);
     tree->setRootIndex(rootIndex);
     tree->setSelectionMode(QAbstractItemView::SingleSelection);
-    tree->setItemDelegate(new DirItemStyledDelegate(this));
+    tree->setItemDelegate(new FolderTreeDelegate(tree, this));
     tree->setHeaderHidden(true);
     for (int column = NameColumn + 1; column < fileModel->columnCount(); ++column)
         tree->hideColumn(column);

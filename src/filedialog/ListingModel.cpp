@@ -1,0 +1,151 @@
+#include "filedialog/ListingModel.h"
+
+#include <QCoreApplication>
+#include <QFileIconProvider>
+#include <QHash>
+#include <QPointer>
+
+namespace {
+
+QEvent::Type sortEventType()
+{
+    static const int type = QEvent::registerEventType();
+    return QEvent::Type(type);
+}
+
+} // namespace
+
+// The model asks for a row's icon first of all, before it matches the row's name.
+class ArrivalWatch : public QFileIconProvider
+{
+public:
+    explicit ArrivalWatch(ListingModel *model)
+        : model(model)
+    {}
+
+    using QFileIconProvider::icon;
+
+    // Files of one suffix share one text.
+    QString type(const QFileInfo &info) const override
+    {
+        if (!info.isFile())
+            return QFileIconProvider::type(info);
+        QString &text = types[info.suffix()];
+        if (text.isEmpty())
+            text = QFileIconProvider::type(info);
+        return text;
+    }
+
+    void retranslate() { types.clear(); }
+
+    QIcon icon(const QFileInfo &info) const override
+    {
+        model->aboutToTakeIn();
+        return QFileIconProvider::icon(info);
+    }
+
+private:
+    ListingModel *model;
+    mutable QHash<QString, QString> types; // by suffix
+};
+
+ListingModel::ListingModel(QObject *parent)
+    : QFileSystemModel(parent)
+    , arrivalWatch(new ArrivalWatch(this))
+{
+    setIconProvider(arrivalWatch.data());
+    connect(this, &QAbstractItemModel::rowsInserted, this, &ListingModel::sortSoon);
+    connect(this, &QAbstractItemModel::dataChanged, this, &ListingModel::markUnsorted);
+    connect(this, &QAbstractItemModel::modelReset, this, &ListingModel::markUnsorted);
+    connect(this, &QFileSystemModel::fileRenamed, this, &ListingModel::markUnsorted);
+}
+
+ListingModel::~ListingModel() = default;
+
+void ListingModel::sort(int column, Qt::SortOrder order)
+{
+    const Arrangement wanted { column,   order,         rootPath(),
+                               filter(), nameFilters(), !suspended && nameFilterDisables() };
+    // Suspending the name filters makes the base want a sort that changes nothing.
+    if (!unsorted && wanted == sorted)
+        return;
+    unsorted = false;
+    sorted = wanted;
+    const bool wasSuspended = suspended;
+    suspendNameFilters();
+    QFileSystemModel::sort(column, order);
+    if (!wasSuspended)
+        resumeNameFilters();
+}
+
+void ListingModel::aboutToTakeIn()
+{
+    if (takingNews)
+        suspendNameFilters();
+}
+
+bool ListingModel::event(QEvent *event)
+{
+    if (event->type() == sortEventType()) {
+        sortPosted = false;
+        sort(sorted.column, sorted.order);
+        return true;
+    }
+    if (event->type() == QEvent::LanguageChange)
+        arrivalWatch->retranslate();
+    if (event->type() != QEvent::MetaCall)
+        return QFileSystemModel::event(event);
+
+    const QPointer<ListingModel> self(this);
+    takingNews = true;
+    const bool handled = QFileSystemModel::event(event);
+    if (self) {
+        takingNews = false;
+        resumeNameFilters();
+    }
+    return handled;
+}
+
+bool ListingModel::Arrangement::operator==(const Arrangement &other) const
+{
+    return column == other.column && order == other.order && rootPath == other.rootPath
+           && filter == other.filter && nameFilters == other.nameFilters
+           && nameFilterDisables == other.nameFilterDisables;
+}
+
+bool ListingModel::everyNameMatches() const
+{
+    return nameFilters().contains(QStringLiteral("*"));
+}
+
+// Rows that no pattern accepts would stay, greyed out: there are none.
+void ListingModel::suspendNameFilters()
+{
+    if (suspended || nameFilterDisables() || !everyNameMatches())
+        return;
+    suspended = true;
+    setNameFilterDisables(true);
+}
+
+void ListingModel::resumeNameFilters()
+{
+    if (!suspended)
+        return;
+    suspended = false;
+    setNameFilterDisables(false);
+}
+
+// Before the views' zero timers, and after the base has noted that it has to sort.
+void ListingModel::sortSoon()
+{
+    unsorted = true;
+    if (sortPosted)
+        return;
+    sortPosted = true;
+    QCoreApplication::postEvent(this, new QEvent(sortEventType()), Qt::HighEventPriority);
+}
+
+void ListingModel::markUnsorted()
+{
+    unsorted = true;
+}
