@@ -10,6 +10,10 @@ namespace {
 constexpr int SliderHeight = 20;
 constexpr int SliderDistance = 4; // from the spin box's bottom row to the slider's top
 
+// Qt's styles keep twice the distance between a slider's ends in 32 bits. This one becomes 0, and
+// painting or clicking the slider would divide by it.
+constexpr qint64 UnusableExtent = Q_INT64_C(1) << 31;
+
 } // namespace
 
 namespace QTarnKit {
@@ -27,7 +31,7 @@ void QZelIntSpinBox::SetRange(const int &min, const int &max)
     if (min > max)
         return;
     minValue = min;
-    maxValue = max;
+    maxValue = qint64(max) - min == UnusableExtent ? max - 1 : max;
     slider->setRange(minValue, maxValue);
     spinBox->setRange(minValue, maxValue);
 }

@@ -33,7 +33,8 @@ public:
     explicit QZelIntSpinBox(QWidget *parent = nullptr);
     ~QZelIntSpinBox() override;
 
-    /// Sets the range of both controls. A @p min above @p max changes nothing.
+    /// Sets the range of both controls. A @p min above @p max changes nothing. A range whose ends
+    /// are exactly 2^31 apart ends one lower, as Qt's sliders crash with such a one.
     void SetRange(const int &min, const int &max);
 
     /// Sets the value, clamped to the range.

@@ -71,6 +71,8 @@ private Q_SLOTS:
     void typedDigitsMoveTheSlider();
     void arrowKeysMoveTheSlider();
     void draggingTheSliderChangesTheValue();
+    void sliderOfAHugeRangeIsPaintedAndClicked_data();
+    void sliderOfAHugeRangeIsPaintedAndClicked();
     void sliderGoesWithTheWidget();
 };
 
@@ -223,6 +225,40 @@ void tst_QZelIntSpinBox_slider::draggingTheSliderChangesTheValue()
     QCOMPARE(box.slider->value(), 100);
     // One for each value the slider had, not an endless number.
     QVERIFY(spun.count() >= 2 && spun.count() <= 4);
+}
+
+void tst_QZelIntSpinBox_slider::sliderOfAHugeRangeIsPaintedAndClicked_data()
+{
+    QTest::addColumn<int>("min");
+    QTest::addColumn<int>("max");
+    QTest::addColumn<int>("end");
+    QTest::newRow("any integer but negative") << 0 << INT_MAX << INT_MAX;
+    QTest::newRow("one below zero for none") << -1 << INT_MAX << INT_MAX - 1;
+    QTest::newRow("any integer but positive") << INT_MIN << 0 << -1;
+    QTest::newRow("one wider") << INT_MIN << 1 << 1;
+    QTest::newRow("all") << INT_MIN << INT_MAX << INT_MAX;
+}
+
+void tst_QZelIntSpinBox_slider::sliderOfAHugeRangeIsPaintedAndClicked()
+{
+    QFETCH(int, min);
+    QFETCH(int, max);
+    QFETCH(int, end);
+    const WarningGuard raise(raiseWarning());
+    Probe box;
+    box.SetRange(min, max);
+    box.slider->setGeometry(100, 100, 220, 20);
+    box.SetSliderVisable(true);
+    QVERIFY(QTest::qWaitForWindowExposed(box.slider));
+    Pointer(box.slider).click({ 210, 110 });
+    const QPixmap picture = box.slider->grab();
+    QCOMPARE(picture.size(), QSize(220, 20));
+    box.SetValue(max);
+    QCOMPARE(box.Value(), end);
+    QCOMPARE(box.slider->value(), end);
+    QCOMPARE(box.spinBox->maximum(), end);
+    box.SetValue(min);
+    QCOMPARE(box.Value(), min);
 }
 
 void tst_QZelIntSpinBox_slider::sliderGoesWithTheWidget()
