@@ -13,6 +13,13 @@
 #include <QMenu>
 #include <QPointer>
 
+namespace {
+
+// How many calls of askForName() are on the stack, for the destructor to know.
+constexpr const char *PendingNames = "pendingNames";
+
+} // namespace
+
 void QZelFileDialog::InitMenu()
 {
     folderMenu = new QMenu(this);
@@ -116,16 +123,14 @@ void QZelFileDialog::onRenameFile()
 }
 
 // While a name is asked for, a menu is still handling the click that led there, and writes to
-// itself when that returns: then the menus go later than this dialog.
+// itself when that returns: then the menus stay behind, and askForName() deletes them.
 void QZelFileDialog::releaseMenus()
 {
-    if (!findChild<QZelFolderNameDialog *>(QString(), Qt::FindDirectChildrenOnly))
+    if (property(PendingNames).toInt() == 0)
         return;
     const QList<QMenu *> menus = { folderMenu, blankMenu, fileMenu };
-    for (QMenu *menu : menus) {
+    for (QMenu *menu : menus)
         menu->setParent(nullptr);
-        menu->deleteLater();
-    }
 }
 
 // Puts the trimmed name into name, the empty string when the name dialog was rejected. An empty
@@ -134,6 +139,9 @@ void QZelFileDialog::releaseMenus()
 bool QZelFileDialog::askForName(const QString &prompt, const QString &content, QString *name)
 {
     const QPointer<QZelFileDialog> self(this);
+    const QList<QMenu *> menus = { folderMenu, blankMenu, fileMenu };
+    const int pending = property(PendingNames).toInt();
+    setProperty(PendingNames, pending + 1);
     const QPointer<QZelFolderNameDialog> dialog(new QZelFolderNameDialog(this));
     dialog->setWindowFlags(dialog->windowFlags() | Qt::WindowStaysOnTopHint);
     dialog->setWindowModality(Qt::WindowModal);
@@ -145,5 +153,13 @@ bool QZelFileDialog::askForName(const QString &prompt, const QString &content, Q
     if (accepted && dialog)
         *name = dialog->let_FolderName->text().trimmed();
     delete dialog;
+    if (self) {
+        setProperty(PendingNames, pending);
+    } else if (pending == 0) {
+        // Not in the destructor: that may run in an event loop further inside, and they would go
+        // in that loop already.
+        for (QMenu *menu : menus)
+            menu->deleteLater();
+    }
     return !self.isNull();
 }

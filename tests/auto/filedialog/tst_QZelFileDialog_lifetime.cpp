@@ -177,12 +177,14 @@ private Q_SLOTS:
     void parentMayBeDestroyed();
     void parentMayBeDestroyedInEveryFunction();
     void parentMayBeDestroyedUnderAWarning();
+    void parentMayBeDestroyedInALoopAboveAName();
     void applicationMayQuit_data() { addSituations(); }
     void applicationMayQuit();
     void receiverMayDeleteTheDialog_data();
     void receiverMayDeleteTheDialog();
     void receiverMayDeleteARunningDialog();
     void dialogMayBeDestroyedWithASelection();
+    void menusGoWithADialogThatOwnsANameDialog();
 };
 
 void tst_QZelFileDialog_lifetime::init()
@@ -252,6 +254,36 @@ void tst_QZelFileDialog_lifetime::parentMayBeDestroyedUnderAWarning()
     QCOMPARE(QZelFileDialog::getOpenFileName(parent, QStringLiteral("Go"), folder, filters),
              QString());
     QVERIFY(driver.finished());
+}
+
+// The menu has not yet returned from the click that asked for the name.
+void tst_QZelFileDialog_lifetime::parentMayBeDestroyedInALoopAboveAName()
+{
+    auto *parent = new QWidget;
+    QPointer<QMenu> menu;
+    bool menuOutlivedTheLoop = false;
+    ModalDriver driver;
+    driver.on<QZelFileDialog>([&](QZelFileDialog *dialog) {
+        driver.on<QMenu>([&](QMenu *open) {
+            menu = open;
+            User::choose(open, QStringLiteral("new"));
+        });
+        driver.on<QZelFolderNameDialog>([&](QZelFolderNameDialog *) {
+            QTarnKit::QUIMessageBox box;
+            QTimer::singleShot(0, &box, [&] {
+                delete parent;
+                QTimer::singleShot(0, &box, &QDialog::accept);
+            });
+            box.exec();
+            menuOutlivedTheLoop = menu;
+        });
+        User::rightClickItem(tree(dialog), QStringLiteral("sub"));
+    });
+    QCOMPARE(QZelFileDialog::getOpenFileName(parent, QStringLiteral("Go"), folder, filters),
+             QString());
+    QVERIFY(driver.finished());
+    QVERIFY(menuOutlivedTheLoop);
+    QTRY_COMPARE(QApplication::topLevelWidgets().size(), 0);
 }
 
 void tst_QZelFileDialog_lifetime::applicationMayQuit()
@@ -349,6 +381,20 @@ void tst_QZelFileDialog_lifetime::dialogMayBeDestroyedWithASelection()
         User::clickItem(dialog.tree(), QStringLiteral("sub"));
     }
     QCOMPARE(lists, QStringList(folder + QStringLiteral("notes.txt")));
+}
+
+// A name dialog of the host's is none that a menu's click is waiting for.
+void tst_QZelFileDialog_lifetime::menusGoWithADialogThatOwnsANameDialog()
+{
+    QList<QPointer<QMenu>> menus;
+    {
+        ShownDialog dialog(QZelFileDialog::OpenFile);
+        new QZelFolderNameDialog(&dialog);
+        const auto all = dialog.findChildren<QMenu *>(QString(), Qt::FindDirectChildrenOnly);
+        for (QMenu *menu : all)
+            menus.append(menu);
+    }
+    QCOMPARE(menus, QList<QPointer<QMenu>>({ nullptr, nullptr, nullptr }));
 }
 
 QTARNKIT_TEST_MAIN(tst_QZelFileDialog_lifetime)
