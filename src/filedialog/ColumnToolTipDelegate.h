@@ -7,10 +7,12 @@
 #include <QHelpEvent>
 #include <QModelIndex>
 #include <QStyledItemDelegate>
+#include <QTextDocument>
 #include <QToolTip>
 
 /**
- * Shows a cell's display text as its tool tip, in every column, whether it is elided or not.
+ * Shows a cell's display text as its tool tip, in every column, whether it is elided or not. Markup
+ * in it is shown as it stands.
  *
  * @code
  * listing->setItemDelegate(new ColumnToolTipDelegate(listing));
@@ -26,7 +28,10 @@ public:
                    const QModelIndex &index) override
     {
         if (event && event->type() == QEvent::ToolTip && index.isValid()) {
-            QToolTip::showText(event->globalPos(), index.data(Qt::DisplayRole).toString());
+            // A file's name may be markup, which would even read the image that it names.
+            const QString text = index.data(Qt::DisplayRole).toString();
+            QToolTip::showText(event->globalPos(),
+                               Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text);
             return true;
         }
         return QAbstractItemDelegate::helpEvent(event, view, option, index);
