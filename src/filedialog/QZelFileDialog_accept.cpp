@@ -8,6 +8,7 @@
 
 #include <QFileSystemModel>
 #include <QPointer>
+#include <QTextDocument>
 
 #include <memory>
 
@@ -34,6 +35,16 @@ public:
 private:
     QPointer<QZelFileDialog> dialog;
 };
+
+// The message with a name in it that is shown as it stands. As markup, it would even read the image
+// that it names.
+QString withName(const QString &message, const QString &name)
+{
+    if (Qt::mightBeRichText(message)) // a translation's own
+        return message.arg(name.toHtmlEscaped());
+    const QString text = message.arg(name);
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
 
 } // namespace
 
@@ -149,10 +160,9 @@ void QZelFileDialog::acceptExisting(const QString &name)
         acceptPath();
         return;
     }
-    const QString message = operateMode == SelectDirectory
-                                    ? tr("The folder/%1 does not exist").arg(name)
-                                    : tr("The file/%1 does not exist").arg(name);
-    OnTopQuestion::run(QString(), message, OnTopQuestion::Warning);
+    const QString message = operateMode == SelectDirectory ? tr("The folder/%1 does not exist")
+                                                           : tr("The file/%1 does not exist");
+    OnTopQuestion::run(QString(), withName(message, name), OnTopQuestion::Warning);
 }
 
 void QZelFileDialog::acceptPath()
