@@ -12,6 +12,30 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
+#include <QStorageInfo>
+
+namespace {
+
+QString fileSystemOf(const QString &path)
+{
+    return QStorageInfo(QFileInfo(path).path()).rootPath();
+}
+
+// To another file system a file is copied. QFile::rename() then removes the original before the
+// last of the copy is written, and loses it when that file system is full.
+bool renameFile(const QString &oldPath, const QString &newPath)
+{
+    if (fileSystemOf(oldPath) == fileSystemOf(newPath))
+        return QFile::rename(oldPath, newPath);
+    if (!QFile::copy(oldPath, newPath))
+        return false;
+    if (QFile::remove(oldPath))
+        return true;
+    QFile::remove(newPath);
+    return false;
+}
+
+} // namespace
 
 namespace {
 
@@ -115,7 +139,7 @@ void QZelFileDialog::onRenameFile()
         return;
     const QString newName = FileNameRules::withForcedSuffix(name, QFileInfo(oldPath).suffix());
     const QString newPath = parent.filePath(newName);
-    if (!QFile::rename(oldPath, newPath))
+    if (!renameFile(oldPath, newPath))
         return;
     ui->treeV_FileList->selectionModel()->select(fileModel->index(newPath),
                                                  QItemSelectionModel::ClearAndSelect);
