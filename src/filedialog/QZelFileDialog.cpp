@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QFileSystemModel>
 #include <QListView>
+#include <QLockFile>
 #include <QRegExp>
 #include <QRegExpValidator>
 #include <QSettings>
@@ -25,6 +26,15 @@ constexpr int TreeStretch = 3;
 constexpr int ListStretch = 7;
 constexpr int NameColumn = 0;
 constexpr int NameColumnWidth = 300;
+constexpr int LockPatience = 200; // milliseconds
+
+// QSettings waits for its lock file: half a minute for one that a power cut has left without its
+// owner's name, without end for a folder of that name.
+bool isLocked(const QSettings &settings)
+{
+    QLockFile lock(settings.fileName() + QStringLiteral(".lock"));
+    return !lock.tryLock(LockPatience) && lock.error() == QLockFile::LockFailedError;
+}
 
 } // namespace
 
@@ -68,6 +78,8 @@ void QZelFileDialog::recordLastPath(QString path)
     // Without any "/" the length is -1, which keeps the whole text.
     const QString folder = path.mid(0, path.lastIndexOf(QLatin1Char('/')));
     QSettings settings(Paths::settingsOrganization(), Paths::settingsApplication());
+    if (isLocked(settings))
+        return;
     settings.setValue(settingsKey(), folder);
     settings.sync();
 }

@@ -112,7 +112,11 @@ public:
     /// The selected files. A call with any remembers the first one's folder in the settings.
     QStringList getFilePaths();
 
-    /// Remembers the folder part of @p path in the settings, under a key that holds the filter.
+    /**
+     * Remembers the folder part of @p path in the settings, under a key that holds the filter.
+     * Settings that cannot be written, or that someone else keeps locked, stay as they are; that is
+     * not reported.
+     */
     void recordLastPath(QString path);
 
     /// Applies the patterns of one filter text; other files are hidden from both views.
