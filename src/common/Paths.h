@@ -18,6 +18,13 @@ inline QString ftpFolderWithSlash()
     return ftpFolder() + QLatin1Char('/');
 }
 
+// Whether a folder lies strictly above another, by their paths; the empty path lies nowhere.
+inline bool isAbove(const QString &path, const QString &below)
+{
+    const QString prefix = path.endsWith(QLatin1Char('/')) ? path : path + QLatin1Char('/');
+    return !path.isEmpty() && below != path && below.startsWith(prefix);
+}
+
 inline QString settingsOrganization()
 {
     return QStringLiteral("MyOrganization");

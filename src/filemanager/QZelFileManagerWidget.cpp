@@ -19,6 +19,13 @@ constexpr int ListPane = 1;
 constexpr int TreeStretch = 3;
 constexpr int ListStretch = 7;
 
+bool isAboveFtpFolder(const QFileInfo &folder)
+{
+    const QString path = folder.canonicalFilePath();
+    return Paths::isAbove(path, Paths::ftpFolder())
+           || Paths::isAbove(path, QFileInfo(Paths::ftpFolder()).canonicalFilePath());
+}
+
 } // namespace
 
 QZelFileManagerWidget::QZelFileManagerWidget(QWidget *parent)
@@ -127,6 +134,10 @@ void QZelFileManagerWidget::removeEntry(const QModelIndex &index)
     QFileInfo entry = fileModel->fileInfo(index);
     entry.refresh();
     const QString path = entry.filePath();
+    // The list leaves the FTP folder when that vanishes or UpPage is pressed without an item: one
+    // double-click on the way back would have the whole file system selected.
+    if (!entry.isSymLink() && isAboveFtpFolder(entry))
+        return;
     // A link to a folder is left to the model, which removes the link itself: through it, the
     // contents of its target would go.
     if (entry.isDir() && !entry.isSymLink())

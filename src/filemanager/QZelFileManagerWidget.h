@@ -21,9 +21,9 @@ class Ui_Form;
  * @endcode
  *
  * It emits nothing and returns nothing; the close button or the application closes it. Deleting
- * asks once and then removes files and whole folders; a symbolic link goes without its target.
- * Failures are not reported. Without the folder the views show the process's working directory, as
- * QFileSystemModel has no other root then.
+ * asks once and then removes files and whole folders. A symbolic link goes without its target, and
+ * a folder above the FTP folder stays. Failures are not reported. Without the folder the views show
+ * the process's working directory, as QFileSystemModel has no other root then.
  *
  * Object names for a style sheet: "wgt_TitleBar" with "label" and "btn_Close"; "btn_MainPage",
  * "btn_UpPage"; "splitter" with "treeV_FileTree" and "listV_FileList"; "wgt_Bottom" with
