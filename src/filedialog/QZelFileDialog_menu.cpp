@@ -16,6 +16,27 @@
 
 namespace {
 
+// QDir takes a name that begins with ":" for a resource, and the file system takes that for a file
+// of the working directory.
+bool looksLikeResource(const QString &name)
+{
+    return name.startsWith(QLatin1Char(':'));
+}
+
+QString pathIn(const QDir &folder, const QString &name)
+{
+    return looksLikeResource(name) ? folder.path() + QLatin1Char('/') + name
+                                   : folder.filePath(name);
+}
+
+void makeFolder(QFileSystemModel *model, const QModelIndex &parent, const QString &name)
+{
+    if (looksLikeResource(name))
+        QDir().mkdir(pathIn(QDir(model->filePath(parent)), name));
+    else
+        model->mkdir(parent, name);
+}
+
 QString fileSystemOf(const QString &path)
 {
     return QStorageInfo(QFileInfo(path).path()).rootPath();
@@ -90,9 +111,9 @@ void QZelFileDialog::onNewFolder()
     if (!askForName(QString(), QString(), &name))
         return;
     if (!newAction->data().toBool())
-        fileModel->mkdir(rootIndex, name);
+        makeFolder(fileModel, rootIndex, name);
     else if (treeMenuIndex.isValid()) // if the clicked folder has vanished, it goes nowhere else
-        fileModel->mkdir(treeMenuIndex, name);
+        makeFolder(fileModel, treeMenuIndex, name);
 }
 
 void QZelFileDialog::onRenameFolder()
@@ -105,7 +126,7 @@ void QZelFileDialog::onRenameFolder()
     if (!parent.cdUp())
         return;
     // The empty name of a cancelled dialog makes this the parent itself, and the rename fails.
-    const QString newPath = parent.filePath(name);
+    const QString newPath = pathIn(parent, name);
     if (!parent.rename(oldPath, newPath))
         return;
     setListRoot(fileModel->index(newPath));
@@ -138,7 +159,7 @@ void QZelFileDialog::onRenameFile()
     if (!parent.cdUp())
         return;
     const QString newName = FileNameRules::withForcedSuffix(name, QFileInfo(oldPath).suffix());
-    const QString newPath = parent.filePath(newName);
+    const QString newPath = pathIn(parent, newName);
     if (!renameFile(oldPath, newPath))
         return;
     ui->treeV_FileList->selectionModel()->select(fileModel->index(newPath),
