@@ -1,6 +1,7 @@
 #ifndef VISIBLETEXT_H
 #define VISIBLETEXT_H
 
+#include <QRegularExpression>
 #include <QString>
 #include <QTextDocument>
 
@@ -12,6 +13,13 @@ inline QString visibleText(const QString &text)
     QTextDocument document;
     document.setHtml(text);
     return document.toPlainText();
+}
+
+/// A text as a text document gives it back, which knows one line end only.
+inline QString asShown(QString text)
+{
+    return text.replace(QRegularExpression(QStringLiteral("[\r\u2028\u2029]")),
+                        QStringLiteral("\n"));
 }
 
 #endif // VISIBLETEXT_H

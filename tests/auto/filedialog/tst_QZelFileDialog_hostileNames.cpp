@@ -38,13 +38,6 @@ QString lastName(const QString &path)
     return path.split(QLatin1Char('/'), Qt::SkipEmptyParts).constLast();
 }
 
-// As a text document gives it back, which knows one line end only.
-QString asShown(QString text)
-{
-    return text.replace(QRegularExpression(QStringLiteral("[\r\u2028\u2029]")),
-                        QStringLiteral("\n"));
-}
-
 // Marks up the file dialog's messages.
 class BoldTranslator : public QTranslator
 {
