@@ -36,6 +36,10 @@ class Ui_QZelFileDialogClass;
  * folder's root, the folder of the last choice is restored there and only there, and no folder
  * above it can be typed into the path.
  *
+ * Names are shown as they stand, markup included. Entries whose names are no text in the process's
+ * encoding, pipes, sockets, devices and broken links are not listed; a chosen path need not be a
+ * regular file, as its name may be typed.
+ *
  * Object names for a style sheet: "wgt_TitleBar" with "label_title" and "btn_Close"; "btn_Back",
  * "btn_Forward", "btn_MainPage", "let_FilePath"; "splitter" with "treeV_FileTree" and
  * "treeV_FileList"; "let_FileName", "cbx_FileType"; "wgt_Bottom" with "btn_encOption",
