@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr qint64 PieceSize = 256 * 1024;
+constexpr qint64 PieceSize = 256LL * 1024;
 
 class Copy
 {

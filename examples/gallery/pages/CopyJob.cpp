@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr qint64 ChunkSize = 64 * 1024;
+constexpr qint64 ChunkSize = 64LL * 1024;
 constexpr int Thousand = 1000;
 
 } // namespace

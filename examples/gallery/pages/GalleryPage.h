@@ -22,11 +22,14 @@ public:
     QString title() const;
 
 protected:
-    void setHeading(const QString &title, const QString &sentence);
-    void setCode(const QString &code);
+    /// The heading and the sentence below it.
+    void setHeading(const QString &title, const QString &text);
 
-    /// Adds a panel below those before it.
-    ControlPanel *addPanel(const QString &heading);
+    /// The lines of use.
+    void setCode(const QString &text);
+
+    /// Adds a panel of this heading below those before it.
+    ControlPanel *addPanel(const QString &text);
 
     /// Adds any widget below the panels.
     void addBelow(QWidget *widget);

@@ -19,7 +19,7 @@
 namespace {
 
 constexpr int Thousand = 1000;
-constexpr qint64 Megabyte = 1024 * 1024;
+constexpr qint64 Megabyte = 1024LL * 1024;
 constexpr int BarHeight = 5;
 constexpr int ShownFor = 2000; // milliseconds
 constexpr int StepInterval = 20; // milliseconds
