@@ -267,7 +267,8 @@ void tst_ImageShapes::maximizeImageIsOneCentredSquareOutline()
     const QImage image = load("windowshift_ic_maximize");
     QCOMPARE(image.size(), QSize(32, 32));
     const QRect square(10, 10, 12, 12);
-    for (const QPoint &point : pixelsWhere(image, [](const QPoint &) { return true; }))
+    const auto points = pixelsWhere(image, [](const QPoint &) { return true; });
+    for (const QPoint &point : points)
         QCOMPARE(alpha(image, point), isOnOutline(square, point) ? 255 : 0);
 }
 
@@ -277,7 +278,8 @@ void tst_ImageShapes::restoreImageIsTwoOverlappingSquareOutlines()
     QCOMPARE(image.size(), QSize(32, 32));
     const QRect front(10, 13, 9, 9);
     const QRect back(13, 10, 9, 9);
-    for (const QPoint &point : pixelsWhere(image, [](const QPoint &) { return true; })) {
+    const auto points = pixelsWhere(image, [](const QPoint &) { return true; });
+    for (const QPoint &point : points) {
         const bool expected =
                 front.contains(point) ? isOnOutline(front, point) : isOnOutline(back, point);
         QCOMPARE(alpha(image, point), expected ? 255 : 0);

@@ -178,7 +178,8 @@ void tst_Resources::namedColourIsTheOnlyHue()
     const QImage image = load(picture.name);
     QVERIFY(opaqueCount(image) >= 20);
 
-    for (const QPoint &point : pixelsWhere(image, [](const QPoint &) { return true; })) {
+    const auto points = pixelsWhere(image, [](const QPoint &) { return true; });
+    for (const QPoint &point : points) {
         const QRgb pixel = image.pixel(point);
         if (qAlpha(pixel) == 255)
             QCOMPARE(QColor(pixel).name(), QColor(picture.colour).name());

@@ -8,8 +8,18 @@
 namespace {
 
 // Warnings can come from the file-system model's thread.
-QMutex mutex;
-std::list<WarningGuard *> expected;
+struct Expected
+{
+    QMutex mutex;
+    std::list<WarningGuard *> guards;
+};
+
+Expected &expected()
+{
+    static Expected instance;
+    return instance;
+}
+
 QtMessageHandler qtTestHandler = nullptr;
 
 // The offscreen platform's own.
@@ -24,8 +34,8 @@ struct WarningGuardAccess
 {
     static bool isExpected(const QString &message)
     {
-        const QMutexLocker lock(&mutex);
-        for (WarningGuard *guard : expected) {
+        const QMutexLocker lock(&expected().mutex);
+        for (WarningGuard *guard : expected().guards) {
             if (QRegularExpression(guard->pattern).match(message).hasMatch()) {
                 ++guard->passed;
                 return true;
@@ -50,14 +60,14 @@ struct WarningGuardAccess
 WarningGuard::WarningGuard(const QString &pattern)
     : pattern(pattern)
 {
-    const QMutexLocker lock(&mutex);
-    expected.push_back(this);
+    const QMutexLocker lock(&expected().mutex);
+    expected().guards.push_back(this);
 }
 
 WarningGuard::~WarningGuard()
 {
-    const QMutexLocker lock(&mutex);
-    expected.remove(this);
+    const QMutexLocker lock(&expected().mutex);
+    expected().guards.remove(this);
 }
 
 void TestCase::initTestCase()

@@ -246,11 +246,11 @@ void tst_QZelDialog_window::maximiseButtonIsPolishedAnew()
                            "#btn_Max[windowState=\"normal\"] { background: #00ff00; }"));
     shell.ShowMaxBtn();
     const auto image = [&shell] { return Pixels::rendered(shell.btn_Max); };
-    COMPARE_PIXEL(image(), 14, 14, "#0000ff");
+    COMPARE_PIXEL(image(), 14, 14, Qt::blue);
     shell.btn_Max->click();
-    COMPARE_PIXEL(image(), 14, 14, "#ff0000");
+    COMPARE_PIXEL(image(), 14, 14, Qt::red);
     shell.btn_Max->click();
-    COMPARE_PIXEL(image(), 14, 14, "#00ff00");
+    COMPARE_PIXEL(image(), 14, 14, Qt::green);
 }
 
 void tst_QZelDialog_window::windowStateIsNeverTouched()

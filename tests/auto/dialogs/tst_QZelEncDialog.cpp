@@ -289,7 +289,7 @@ void tst_QZelEncDialog::contentHasItsOwnLook()
     QCOMPARE(dialog.content()->styleSheet(),
              QStringLiteral("background-color: #f2f3f5; font: 10pt \"Microsoft YaHei\";"));
     dialog.show();
-    COMPARE_PIXEL(Pixels::rendered(dialog.content()), 5, 5, "#f2f3f5");
+    COMPARE_PIXEL(Pixels::rendered(dialog.content()), 5, 5, 0xf2f3f5);
     QCOMPARE(dialog.let_Pwd->font().family(), QStringLiteral("Microsoft YaHei"));
     QCOMPARE(dialog.let_Pwd->font().pointSize(), 10);
 }

@@ -165,7 +165,7 @@ void tst_QZelFolderNameDialog::contentHasItsOwnLook()
     QCOMPARE(dialog.content()->styleSheet(),
              QStringLiteral("background-color: #f2f3f5; font: 11pt \"Microsoft YaHei\";"));
     dialog.show();
-    COMPARE_PIXEL(Pixels::rendered(dialog.content()), 3, 3, "#f2f3f5");
+    COMPARE_PIXEL(Pixels::rendered(dialog.content()), 3, 3, 0xf2f3f5);
     for (const QWidget *widget : { static_cast<QWidget *>(dialog.lbl_FolderName),
                                    static_cast<QWidget *>(dialog.let_FolderName) }) {
         QCOMPARE(widget->font().family(), QStringLiteral("Microsoft YaHei"));

@@ -46,7 +46,7 @@ public:
             paths.append(arguments.at(0).toString());
         return paths;
     }
-    bool accepted() { return !isVisible() && result() == Accepted; }
+    bool wasAccepted() { return !isVisible() && result() == Accepted; }
     bool stays() { return isVisible() && finishedSpy.isEmpty(); }
     void pressGo() { User::clickButton(this, QStringLiteral("btn_OpenSave")); }
 

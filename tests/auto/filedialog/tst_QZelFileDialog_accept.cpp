@@ -111,7 +111,7 @@ void tst_QZelFileDialog_accept::bareNameGetsTheFiltersSuffix()
         // Not typed: the edit takes no dots from the keyboard in these modes.
         dialog.name()->setText(name);
         dialog.pressGo();
-        QVERIFY(dialog.accepted());
+        QVERIFY(dialog.wasAccepted());
         QCOMPARE(dialog.announced(), QStringList(folder + expected));
         QCOMPARE(dialog.getFilePath(), folder + expected);
     }
@@ -123,7 +123,7 @@ void tst_QZelFileDialog_accept::suffixFollowsTheFilterChosenLast()
     dialog.findChild<QComboBox *>(QStringLiteral("cbx_FileType"))->setCurrentIndex(1);
     User::type(dialog.name(), QStringLiteral("day-1"));
     dialog.pressGo();
-    QVERIFY(dialog.accepted());
+    QVERIFY(dialog.wasAccepted());
     QCOMPARE(dialog.announced(), QStringList(folder + QStringLiteral("day-1.log")));
 }
 
@@ -136,7 +136,7 @@ void tst_QZelFileDialog_accept::typedPathIsJoinedToTheNameAsItIs()
     QVERIFY(dialog.isVisible());
     User::type(dialog.name(), QStringLiteral("report"));
     dialog.pressGo();
-    QVERIFY(dialog.accepted());
+    QVERIFY(dialog.wasAccepted());
     QCOMPARE(dialog.announced(), QStringList(QStringLiteral("/root/work/subreport.txt")));
 }
 
@@ -149,7 +149,7 @@ void tst_QZelFileDialog_accept::newFileIsAnnouncedBeforeTheDialogIsAccepted()
     User::type(dialog.name(), QStringLiteral("report"));
     dialog.pressGo();
     QVERIFY(wasOpen);
-    QVERIFY(dialog.accepted());
+    QVERIFY(dialog.wasAccepted());
     QCOMPARE(dialog.announced().size(), 1);
     QVERIFY(!QFile::exists(dialog.filePath));
 }
@@ -185,7 +185,7 @@ void tst_QZelFileDialog_accept::overwriteThroughTheButton()
     QCOMPARE(seen.text, QStringLiteral("Is storage overwritten?"));
     QCOMPARE(seen.buttons, QStringList({ QStringLiteral("Yes"), QStringLiteral("No") }));
     QCOMPARE(seen.icon, QStringLiteral("ask"));
-    QCOMPARE(dialog.accepted(), replaces);
+    QCOMPARE(dialog.wasAccepted(), replaces);
     QCOMPARE(dialog.stays(), !replaces);
     QCOMPARE(dialog.announced(), QStringList());
     QCOMPARE(dialog.filePath, folder + QStringLiteral("notes.txt"));
@@ -214,7 +214,7 @@ void tst_QZelFileDialog_accept::replaceThroughADoubleClick()
     QCOMPARE(seen.text, QStringLiteral("The file already exists. Whether to replace it?"));
     QCOMPARE(seen.buttons, QStringList({ QStringLiteral("Yes"), QStringLiteral("No") }));
     QCOMPARE(seen.icon, QStringLiteral("ask"));
-    QCOMPARE(dialog.accepted(), replaces);
+    QCOMPARE(dialog.wasAccepted(), replaces);
     QCOMPARE(dialog.stays(), !replaces);
     const QString path = folder + QStringLiteral("notes.txt");
     QCOMPARE(dialog.announced(), replaces ? QStringList(path) : QStringList());
@@ -233,7 +233,7 @@ void tst_QZelFileDialog_accept::doubleClickOnAFileToOpenAsksNothing()
     QFETCH(int, mode);
     ShownDialog dialog { Mode(mode) };
     User::doubleClickItem(dialog.list(), QStringLiteral("notes.txt"));
-    QVERIFY(dialog.accepted());
+    QVERIFY(dialog.wasAccepted());
     const QString path = folder + QStringLiteral("notes.txt");
     QCOMPARE(dialog.announced(), QStringList(path));
     QCOMPARE(dialog.getFilePath(), path);
@@ -266,7 +266,7 @@ void tst_QZelFileDialog_accept::existingFileToOpenIsAnnounced()
     User::clickItem(dialog.list(), QStringLiteral("notes.txt"));
     QCOMPARE(dialog.name()->text(), QStringLiteral("notes.txt"));
     dialog.pressGo();
-    QVERIFY(dialog.accepted());
+    QVERIFY(dialog.wasAccepted());
     QCOMPARE(dialog.announced(), QStringList(folder + QStringLiteral("notes.txt")));
 }
 
@@ -275,7 +275,7 @@ void tst_QZelFileDialog_accept::folderOfTheTypedNameCountsAsExisting()
     ShownDialog open(Mode::OpenFile, QStringLiteral("All (*)"));
     User::type(open.name(), QStringLiteral("sub"));
     open.pressGo();
-    QVERIFY(open.accepted());
+    QVERIFY(open.wasAccepted());
     QCOMPARE(open.announced(), QStringList(folder + QStringLiteral("sub")));
 
     ShownDialog save(Mode::SaveFile, QStringLiteral("All (*)"));
@@ -295,14 +295,14 @@ void tst_QZelFileDialog_accept::manyFilesAreAcceptedAtOnce()
     User::clickItem(dialog.list(), QStringLiteral("notes.txt"));
     User::clickItem(dialog.list(), QStringLiteral("b.txt"), Qt::ControlModifier);
     dialog.pressGo();
-    QVERIFY(dialog.accepted());
+    QVERIFY(dialog.wasAccepted());
     QCOMPARE(dialog.announced(), QStringList());
     QCOMPARE(dialog.getFilePaths(), QStringList({ folder + QStringLiteral("notes.txt"),
                                                   folder + QStringLiteral("b.txt") }));
 
     ShownDialog none(Mode::OpenFiles);
     none.pressGo();
-    QVERIFY(none.accepted());
+    QVERIFY(none.wasAccepted());
     QCOMPARE(none.getFilePaths(), QStringList());
 }
 
@@ -312,7 +312,7 @@ void tst_QZelFileDialog_accept::shownFolderIsChosen()
     // The name field has no say.
     User::type(dialog.name(), QStringLiteral("elsewhere"));
     dialog.pressGo();
-    QVERIFY(dialog.accepted());
+    QVERIFY(dialog.wasAccepted());
     QCOMPARE(dialog.announced(), QStringList(folder));
     QCOMPARE(dialog.getFilePath(), folder);
 }
@@ -373,7 +373,7 @@ void tst_QZelFileDialog_accept::emptyHistoryIsAnEmptyFolder()
         } else {
             QCOMPARE(dialog.filePath, QStringLiteral("name.txt"));
         }
-        QCOMPARE(dialog.accepted(), mode == Mode::SaveFile);
+        QCOMPARE(dialog.wasAccepted(), mode == Mode::SaveFile);
     }
 }
 

@@ -348,7 +348,7 @@ void tst_QZelFileDialog_form::titleStripStyleSheetsAreEmpty()
 {
     const FileDialogProbe dialog(nullptr, QString(), QString());
     for (const char *name : { "wgt_TitleBar", "label_title", "btn_Close" })
-        QCOMPARE(dialog.part<QWidget>(QString::fromLatin1(name))->styleSheet(), QStringLiteral(""));
+        QCOMPARE(dialog.part<QWidget>(QString::fromLatin1(name))->styleSheet(), QString());
 }
 
 void tst_QZelFileDialog_form::textsAreTheirKeysWithoutTranslation()

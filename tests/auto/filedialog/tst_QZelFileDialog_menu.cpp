@@ -124,8 +124,10 @@ void tst_QZelFileDialog_menu::menusOpenWhereTheClickWas()
     ShownDialog dialog(Mode::OpenFile);
     const QList<QPair<QTreeView *, QString>> items = { { dialog.tree(), sub },
                                                        { dialog.list(), notes } };
-    for (const auto &[view, name] : items) {
-        const QPoint click = view->visualRect(User::item(view, name)).topLeft() + QPoint(9, 5);
+    for (const auto &item : items) {
+        QTreeView *const view = item.first;
+        const QRect cell = view->visualRect(User::item(view, item.second));
+        const QPoint click = cell.topLeft() + QPoint(9, 5);
         const QPoint onScreen = view->viewport()->mapToGlobal(click);
         QPoint position;
         QVERIFY(!menuOf([&] { User::rightClickAt(view, click); }, &position).isEmpty());

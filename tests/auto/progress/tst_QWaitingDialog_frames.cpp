@@ -109,7 +109,7 @@ void tst_QWaitingDialog_frames::framesHoldTheDiagonal()
 {
     const WaitingDialogProbe dialog;
     QCOMPARE(dialog.frames.size(), FrameCount);
-    for (const QPixmap &frame : dialog.frames) {
+    for (const QPixmap &frame : qAsConst(dialog.frames)) {
         QCOMPARE(frame.size(), QSize(Side, Side));
         QVERIFY(frame.hasAlphaChannel());
     }
@@ -150,7 +150,7 @@ void tst_QWaitingDialog_frames::firstFrameIsTheIconItself()
 void tst_QWaitingDialog_frames::cornersStayTransparent()
 {
     const WaitingDialogProbe dialog;
-    for (const QPixmap &frame : dialog.frames) {
+    for (const QPixmap &frame : qAsConst(dialog.frames)) {
         const QImage image = imageOf(frame);
         int opaque = 0;
         for (int y = 0; y < Side; ++y) {
@@ -220,13 +220,13 @@ void tst_QWaitingDialog_frames::tickPaintsNoNewFrames()
 {
     WaitingDialogProbe dialog;
     QList<qint64> before;
-    for (const QPixmap &frame : dialog.frames)
+    for (const QPixmap &frame : qAsConst(dialog.frames))
         before.append(frame.cacheKey());
     dialog.showWaitingDialog();
     dialog.tick(80);
     dialog.hideWaitingDialog();
     QList<qint64> after;
-    for (const QPixmap &frame : dialog.frames)
+    for (const QPixmap &frame : qAsConst(dialog.frames))
         after.append(frame.cacheKey());
     QCOMPARE(after, before);
 }
@@ -242,7 +242,7 @@ void tst_QWaitingDialog_frames::missingImageGivesEmptyFrames()
 
     QVERIFY(dialog.loadingPixmap.isNull());
     QCOMPARE(dialog.frames.size(), FrameCount);
-    for (const QPixmap &frame : dialog.frames) {
+    for (const QPixmap &frame : qAsConst(dialog.frames)) {
         QCOMPARE(frame.size(), QSize(10, 10));
         const QImage image = imageOf(frame);
         for (int y = 0; y < 10; ++y) {

@@ -32,7 +32,11 @@ constexpr QSize BaseMinimumSize(200, 150);
 constexpr QPoint DialogPosition(120, 90);
 
 // What no other window owns, in the order in which it was opened.
-QWidgetList roots;
+QWidgetList &roots()
+{
+    static QWidgetList widgets;
+    return widgets;
+}
 
 QString folder()
 {
@@ -48,7 +52,7 @@ QString filters()
 void openOwner(const std::function<void(QWidget *)> &open)
 {
     auto *owner = new QWidget;
-    roots.append(owner);
+    roots().append(owner);
     owner->setObjectName(QStringLiteral("owner"));
     auto *layout = new QVBoxLayout(owner);
     auto *button = new QPushButton(QStringLiteral("Open"));
@@ -64,7 +68,7 @@ void openOwner(const std::function<void(QWidget *)> &open)
 void openBackdrop()
 {
     auto *backdrop = new QWidget(nullptr, Qt::FramelessWindowHint);
-    roots.append(backdrop);
+    roots().append(backdrop);
     backdrop->setObjectName(QStringLiteral("backdrop"));
     backdrop->setGeometry(QGuiApplication::primaryScreen()->geometry());
     backdrop->show();
@@ -82,7 +86,7 @@ void openDialog(QDialog *dialog)
 void openBase()
 {
     auto *window = new QZelBaseWindows;
-    roots.append(window);
+    roots().append(window);
     window->setAttribute(Qt::WA_Hover);
     window->setMinimumSize(BaseMinimumSize);
     auto *content = new QWidget;
@@ -108,7 +112,7 @@ void openBase()
 void openTitleBar()
 {
     auto *window = new QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint);
-    roots.append(window);
+    roots().append(window);
     window->setObjectName(QStringLiteral("strip"));
     auto *layout = new QVBoxLayout(window);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -172,7 +176,7 @@ void openFileManager(QWidget *owner)
 void openMessage(QWidget *)
 {
     auto *box = new QTarnKit::QUIMessageBox;
-    roots.append(box);
+    roots().append(box);
     box->setMessage(QStringLiteral("Title"), QStringLiteral("Text"), 4, 0);
     openDialog(box);
 }
@@ -180,7 +184,7 @@ void openMessage(QWidget *)
 void openSpinBox()
 {
     auto *window = new QWidget;
-    roots.append(window);
+    roots().append(window);
     window->setObjectName(QStringLiteral("owner"));
     auto *layout = new QVBoxLayout(window);
     auto *other = new QLineEdit;
@@ -259,6 +263,6 @@ bool Scenes::open(const QString &name)
 
 void Scenes::close()
 {
-    qDeleteAll(roots);
-    roots.clear();
+    qDeleteAll(roots());
+    roots().clear();
 }
