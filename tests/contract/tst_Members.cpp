@@ -36,7 +36,7 @@ template <typename Expected, typename Actual>
 Member member(const char *name, const Actual &value)
 {
     static_assert(std::is_same_v<Expected, Actual>, "a member has changed its type");
-    return { name, std::addressof(value), sizeof(value), alignof(Actual) };
+    return { name, std::addressof(value), sizeof(Actual), alignof(Actual) };
 }
 
 #define MEMBER(Type, name) member<Type>(#name, this->name)

@@ -20,9 +20,9 @@ const bool registeredBeforeMain = QFile::exists(QStringLiteral(":/image/ok.png")
 
 struct Picture
 {
-    const char *name;
+    const char *name = nullptr;
     QSize size;
-    QRgb colour;
+    QRgb colour = 0;
 };
 
 const Picture pictures[] = {

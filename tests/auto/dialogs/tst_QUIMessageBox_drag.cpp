@@ -4,8 +4,6 @@
 
 #include <QMouseEvent>
 
-using QTarnKit::QUIMessageBox;
-
 namespace {
 
 using Place = QPoint (*)(const BoxProbe &);

@@ -92,9 +92,9 @@ void tst_QZelFileDialog_form::theFormHasOneMemberForEachPartInOrder()
         &ui.let_FileName,   &ui.cbx_FileType,   &ui.wgt_Bottom,         &ui.widget1,
         &ui.spacer_Bottom,  &ui.btn_encOption,  &ui.btn_OpenSave,       &ui.btn_Cancel
     };
+    const auto *const places = reinterpret_cast<const void *const *>(&ui);
     for (int i = 0; i < members.size(); ++i)
-        QCOMPARE(members.at(i), static_cast<const void *>(reinterpret_cast<const char *>(&ui)
-                                                          + i * int(sizeof(void *))));
+        QCOMPARE(members.at(i), static_cast<const void *>(places + i));
     QCOMPARE(int(sizeof(ui)), members.size() * int(sizeof(void *)));
 }
 

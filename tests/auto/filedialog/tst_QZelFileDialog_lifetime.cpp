@@ -205,7 +205,8 @@ void tst_QZelFileDialog_lifetime::parentMayBeDestroyed()
         situation(driver, dialog, [parent] { delete parent; });
         QVERIFY(!watched);
     });
-    QString filter = untouched, password = untouched;
+    QString filter = untouched;
+    QString password = untouched;
     const QString path = QZelFileDialog::getSaveFileName(parent, QStringLiteral("Go"), folder,
                                                          filters, &filter, true, &password);
     QVERIFY(driver.finished());
@@ -289,7 +290,9 @@ void tst_QZelFileDialog_lifetime::parentMayBeDestroyedInALoopAboveAName()
 void tst_QZelFileDialog_lifetime::applicationMayQuit()
 {
     QFETCH(Situation, situation);
-    QString path = untouched, filter = untouched, password = untouched;
+    QString path = untouched;
+    QString filter = untouched;
+    QString password = untouched;
     // A name dialog that is quit is a cancelled one: the command goes on with the empty name.
     const WarningGuard emptyName(QStringLiteral("^QDir::mkdir: Empty or null file name"));
     ModalDriver driver;

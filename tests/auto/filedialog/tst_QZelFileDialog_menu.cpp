@@ -90,6 +90,8 @@ private Q_SLOTS:
     void folderMayVanishWhileItsNameIsAsked();
     void fileMayVanishUnderItsMenu();
     void fileMayVanishWhileItsNameIsAsked();
+    void startFolderMayVanishWhileANameIsAsked_data();
+    void startFolderMayVanishWhileANameIsAsked();
 };
 
 void tst_QZelFileDialog_menu::init()
@@ -413,6 +415,32 @@ void tst_QZelFileDialog_menu::fileMayVanishWhileItsNameIsAsked()
     QVERIFY(driver.finished());
     QCOMPARE(entries(folder), QStringList({ QStringLiteral("full"), sub }));
     QCOMPARE(dialog.name()->text(), QString());
+}
+
+void tst_QZelFileDialog_menu::startFolderMayVanishWhileANameIsAsked_data()
+{
+    QTest::addColumn<bool>("inTree");
+    QTest::newRow("folder") << true;
+    QTest::newRow("file") << false;
+}
+
+void tst_QZelFileDialog_menu::startFolderMayVanishWhileANameIsAsked()
+{
+    QFETCH(bool, inTree);
+    ShownDialog dialog(Mode::OpenFile);
+    ModalDriver driver;
+    chooseNext(driver, renameAction);
+    driver.on<QZelFolderNameDialog>([&](QZelFolderNameDialog *nameDialog) {
+        User::type(nameDialog->let_FolderName, QStringLiteral("made"));
+        QVERIFY(QDir(folder).removeRecursively());
+        User::clickButton(nameDialog, confirmName()); // before the views have noticed
+    });
+    User::rightClickItem(inTree ? dialog.tree() : dialog.list(), inTree ? sub : notes);
+    QVERIFY(driver.finished());
+    QVERIFY(!QFileInfo::exists(folder));
+    QCOMPARE(dialog.path()->text(), QStringLiteral("/"));
+    QCOMPARE(dialog.name()->text(), QString());
+    QVERIFY(dialog.stays());
 }
 
 QTARNKIT_TEST_MAIN(tst_QZelFileDialog_menu)

@@ -1,10 +1,13 @@
 #include "FileDialogProbe.h"
 #include "FtpFolder.h"
 #include "TestMain.h"
+#include "User.h"
 
+#include <QHelpEvent>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QToolTip>
 
 class tst_QZelFileDialog_selection : public TestCase
 {
@@ -20,6 +23,7 @@ private Q_SLOTS:
     void oneFileOnlyInTheOtherModes_data();
     void oneFileOnlyInTheOtherModes();
     void aClickOnAnyColumnSelectsTheRow();
+    void anItemsTipIsItsText();
     void theListIsEmptyWithoutASelection();
     void theFirstFilesFolderIsRemembered();
     void aSelectedFileThatVanishesLeavesTheList();
@@ -152,6 +156,19 @@ void tst_QZelFileDialog_selection::aClickOnAnyColumnSelectsTheRow()
         QCOMPARE(spy->count(), column + 1);
         QCOMPARE(told(column), QStringList(path(column % 2 ? "a.txt" : "b.txt")));
     }
+    dialog->close();
+}
+
+void tst_QZelFileDialog_selection::anItemsTipIsItsText()
+{
+    open();
+    auto *list = dialog->findChild<QTreeView *>(QStringLiteral("treeV_FileList"));
+    const QPoint position = list->visualRect(User::item(list, QStringLiteral("b.txt"))).center();
+    QHelpEvent event(QEvent::ToolTip, position, list->viewport()->mapToGlobal(position));
+    QVERIFY(QApplication::sendEvent(list->viewport(), &event));
+    QCOMPARE(QToolTip::text(), QStringLiteral("b.txt"));
+    QToolTip::hideText();
+    QTRY_VERIFY(!QToolTip::isVisible());
     dialog->close();
 }
 

@@ -270,7 +270,8 @@ void tst_QZelFileDialog_statics::openedFilesAreReturnedAndTheFirstOnesFolderReme
     driver.on<QZelFileDialog>([](QZelFileDialog *dialog) {
         auto *list = child<QTreeView>(dialog, "treeV_FileList");
         const QSignalSpy spy(dialog, &QZelFileDialog::sig_filePaths);
-        const QString a = folder + QStringLiteral("a.txt"), b = folder + QStringLiteral("b.txt");
+        const QString a = folder + QStringLiteral("a.txt");
+        const QString b = folder + QStringLiteral("b.txt");
         User::clickItem(list, QStringLiteral("b.txt"));
         QCOMPARE(spy.size(), 1);
         QCOMPARE(spy.at(0).at(0).toStringList(), QStringList(b));

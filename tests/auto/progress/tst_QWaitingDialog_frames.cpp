@@ -55,13 +55,14 @@ double difference(const QImage &frame, const QImage &icon, int degrees)
 {
     const double cosine = std::cos(degrees * Pi / 180);
     const double sine = std::sin(degrees * Pi / 180);
+    const QPoint centre(icon.width() / 2, icon.height() / 2); // rounded down on purpose
     double sum = 0;
     for (int y = 0; y < frame.height(); ++y) {
         for (int x = 0; x < frame.width(); ++x) {
             const double fromCentreX = x + 0.5 - frame.width() / 2.0;
             const double fromCentreY = y + 0.5 - frame.height() / 2.0;
-            const double u = cosine * fromCentreX + sine * fromCentreY + icon.width() / 2;
-            const double v = -sine * fromCentreX + cosine * fromCentreY + icon.height() / 2;
+            const double u = cosine * fromCentreX + sine * fromCentreY + centre.x();
+            const double v = -sine * fromCentreX + cosine * fromCentreY + centre.y();
             const Channels expected = bilinear(icon, u - 0.5, v - 0.5);
             const Channels actual = channelsAt(frame, x, y);
             for (size_t i = 0; i < expected.size(); ++i)
