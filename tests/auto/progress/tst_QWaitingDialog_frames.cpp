@@ -55,7 +55,7 @@ double difference(const QImage &frame, const QImage &icon, int degrees)
 {
     const double cosine = std::cos(degrees * Pi / 180);
     const double sine = std::sin(degrees * Pi / 180);
-    const QPoint centre(icon.width() / 2, icon.height() / 2); // rounded down on purpose
+    const QPoint centre(icon.width() / 2, icon.height() / 2); // in whole pixels
     double sum = 0;
     for (int y = 0; y < frame.height(); ++y) {
         for (int x = 0; x < frame.width(); ++x) {
