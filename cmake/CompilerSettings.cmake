@@ -21,8 +21,3 @@ if(QTARNKIT_SANITIZERS)
         -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${QTARNKIT_SANITIZERS})
 endif()
-
-if(QTARNKIT_COVERAGE)
-    add_compile_options(--coverage)
-    add_link_options(--coverage)
-endif()
