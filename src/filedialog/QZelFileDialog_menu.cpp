@@ -16,6 +16,9 @@
 
 namespace {
 
+// How many calls of askForName() are on the stack, for the destructor to know.
+constexpr const char *PendingNames = "pendingNames";
+
 // QDir takes a name that begins with ":" for a resource, and the file system takes that for a file
 // of the working directory.
 bool looksLikeResource(const QString &name)
@@ -55,13 +58,6 @@ bool renameFile(const QString &oldPath, const QString &newPath)
     QFile::remove(newPath);
     return false;
 }
-
-} // namespace
-
-namespace {
-
-// How many calls of askForName() are on the stack, for the destructor to know.
-constexpr const char *PendingNames = "pendingNames";
 
 } // namespace
 
