@@ -25,6 +25,12 @@ void substituteFonts()
     }
 }
 
+QString sheet(const QString &name)
+{
+    QFile file(QStringLiteral(":/styles/%1.qss").arg(name));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
 } // namespace
 
 Appearance::Appearance(QObject *parent)
@@ -37,11 +43,10 @@ Appearance::Appearance(QObject *parent)
 
 void Appearance::setStyle(const QString &name)
 {
-    QFile file(QStringLiteral(":/styles/%1.qss").arg(name));
-    if (!file.open(QIODevice::ReadOnly))
+    if (!styles().contains(name))
         return;
     currentStyle = name;
-    qApp->setStyleSheet(QString::fromUtf8(file.readAll()));
+    qApp->setStyleSheet(sheet(name) + sheet(QStringLiteral("gallery-") + name));
 }
 
 void Appearance::setLanguage(const QString &name)
