@@ -20,9 +20,10 @@ class QWidget;
  * Each show starts with an empty, masked form.
  *
  * @code
- * QZelEncDialog dialog(this);
- * if (dialog.exec() == QDialog::Accepted)
- *     usePassword(dialog.let_Pwd->text().trimmed());
+ * const QPointer<QZelEncDialog> dialog = new QZelEncDialog(this); // its parent may delete it
+ * if (dialog->exec() == QDialog::Accepted)
+ *     usePassword(dialog->let_Pwd->text().trimmed());
+ * delete dialog;
  * @endcode
  *
  * Object names for a style sheet: those of QZelDialog, "wgt_Rectangle" (each of the two framed

@@ -10,9 +10,10 @@ class QLineEdit;
  * A dialog in which the user types the name of a folder or file to create or rename.
  *
  * @code
- * QZelFolderNameDialog dialog(this);
- * dialog.setContent(oldName);
- * if (dialog.exec() == QDialog::Accepted) rename(dialog.let_FolderName->text());
+ * const QPointer<QZelFolderNameDialog> dialog = new QZelFolderNameDialog(this);
+ * dialog->setContent(oldName);
+ * if (dialog->exec() == QDialog::Accepted) rename(dialog->let_FolderName->text());
+ * delete dialog; // null when it went with its parent
  * @endcode
  *
  * Only an empty name is refused, by leaving the dialog open; blanks and characters that the file

@@ -10,9 +10,13 @@
  * closes the dialog or says in it what is wrong:
  *
  * @code
- * connect(&dialog, &QZelPwdInputDialog::passwordEntered, this, [&](const QString &password) {
- *     isRight(password) ? dialog.done(QDialog::Accepted) : dialog.SetErrorMsg(tr("Wrong password"));
+ * const QPointer<QZelPwdInputDialog> dialog = new QZelPwdInputDialog(this);
+ * connect(dialog, &QZelPwdInputDialog::passwordEntered, this, [&](const QString &password) {
+ *     isRight(password) ? dialog->done(QDialog::Accepted)
+ *                       : dialog->SetErrorMsg(tr("Wrong password"));
  * });
+ * const bool entered = dialog->exec() == QDialog::Accepted;
+ * delete dialog; // null when it went with its parent
  * @endcode
  *
  * Object names are those of QZelEncDialog; the confirmation row is hidden.

@@ -16,8 +16,9 @@ class Ui_Form;
  * "/root/zeltempfiles/ftp".
  *
  * @code
- * QZelFileManagerWidget manager(this);
- * manager.exec();
+ * const QPointer<QZelFileManagerWidget> manager = new QZelFileManagerWidget(this);
+ * manager->exec();
+ * delete manager; // null when it went with its parent
  * @endcode
  *
  * It emits nothing and returns nothing; the close button or the application closes it. Deleting

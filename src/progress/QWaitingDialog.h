@@ -19,9 +19,9 @@ class QVBoxLayout;
  * Show it around a long operation that keeps the event loop running:
  *
  * @code
- * QWaitingDialog waiting(this);
- * waiting.setTipMessage(tr("Copying..."));
- * waiting.showWaitingDialog();   // ... hideWaitingDialog() when done
+ * auto *waiting = new QWaitingDialog(this); // deleted with its parent, or when done
+ * waiting->setTipMessage(tr("Copying..."));
+ * waiting->showWaitingDialog();   // ... hideWaitingDialog() when done
  * @endcode
  *
  * The box is between 250 x 80 and 600 x 200 pixels, by its message. The icon turns once in 36 steps
