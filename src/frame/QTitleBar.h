@@ -22,8 +22,15 @@ class QPushButton;
  * connect(bar, &QTitleBar::SIG_CloseWindow, window, &QWidget::close);
  * @endcode
  *
- * In a QZelBaseWindows, which moves by itself too, switch that off with setMoveEnable(false), also
- * after each return to the normal state; else the window runs ahead of the pointer.
+ * In a layout inside a central widget it would drag that widget. A QZelBaseWindows moves by itself
+ * too, and would run ahead of the pointer: set Qt::WA_NoMousePropagation on the strip, or switch
+ * the window's moving off with setMoveEnable(false), again after each return to the normal state:
+ *
+ * @code
+ * bar->setAttribute(Qt::WA_NoMousePropagation);
+ * setMenuWidget(bar);
+ * setTitleBar(bar);
+ * @endcode
  *
  * The strip is 25 pixels high. A style sheet addresses the children by type: "QTitleBar QLabel" is
  * the title and "QTitleBar QPushButton" the close button, which has no text and no icon of its own.

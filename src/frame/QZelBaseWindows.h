@@ -18,7 +18,9 @@
  * be sure.
  *
  * @code
- * MainWindow::MainWindow() { setAttribute(Qt::WA_Hover); setTitleBar(strip); }
+ * setAttribute(Qt::WA_Hover);
+ * setMenuWidget(strip);
+ * setTitleBar(strip);
  * connect(this, &QZelBaseWindows::titleDblClick, this, &MainWindow::toggleMaximized);
  * @endcode
  *
@@ -62,9 +64,9 @@ public Q_SLOTS:
     void setResizeEnable(bool resizeEnable);
 
     /**
-     * Makes @p titleBar the widget whose double-clicks emit titleDblClick(). The caller keeps
-     * ownership. A title bar set before stays filtered but is no longer listened to; null means
-     * none.
+     * Makes @p titleBar the widget whose double-clicks emit titleDblClick(); placing it
+     * is left to setMenuWidget() or a layout. The caller keeps ownership. A title bar set before
+     * stays filtered but is no longer listened to; null means none.
      */
     void setTitleBar(QWidget *titleBar);
 
