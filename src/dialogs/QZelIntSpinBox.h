@@ -19,6 +19,9 @@ namespace QTarnKit {
  * volume->SetValue(12);
  * @endcode
  *
+ * The widget has no signal of its own: ask Value(), or connect to the spin box inside,
+ * `findChild<QSpinBox *>()`, and its valueChanged(int).
+ *
  * The slider is a window of its own that never takes the focus. It is placed when the focus comes
  * and stays there should the window move meanwhile. It belongs to this widget.
  *

@@ -32,6 +32,9 @@ class Ui_QZelFileDialogClass;
  * A filter is a label with patterns in parentheses, or the patterns alone; patterns are separated
  * by single spaces, filters by ";;". The caption is the title and the text of the OpenSave button.
  *
+ * The start folder is the dialog's root: the path field shows what follows it ("/" for the start
+ * folder itself), and a typed path is put after it. One that then does not exist changes nothing.
+ *
  * The folder "/root/zeltempfiles/ftp/" is special: a start folder inside it opens the tree at that
  * folder's root, the folder of the last choice is restored there and only there, and no folder
  * above it can be typed into the path.
