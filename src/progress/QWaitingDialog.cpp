@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QTimer>
 #include <QTransform>
 #include <QVBoxLayout>
@@ -27,6 +28,26 @@ constexpr QMargins MarginsWithoutBar(5, 15, 5, 15);
 constexpr int MainSpacing = 10;
 constexpr QSize SmallestSize(250, 80);
 constexpr QSize LargestSize(600, 200);
+
+// The icon in a square that holds its diagonal at any angle. Without an icon that is 10 x 10.
+QPixmap turned(const QPixmap &icon, int degrees)
+{
+    const int w = icon.width();
+    const int h = icon.height();
+    const int side = int(std::sqrt(double(w) * w + double(h) * h)) + FramePadding;
+
+    QPixmap frame(side, side);
+    frame.fill(Qt::transparent);
+    QTransform transform;
+    transform.translate(side / 2.0, side / 2.0);
+    transform.rotate(degrees);
+    QPainter painter(&frame);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setTransform(transform);
+    painter.drawPixmap(-(w / 2), -(h / 2), icon);
+    painter.end();
+    return frame;
+}
 
 } // namespace
 
@@ -120,27 +141,20 @@ void QWaitingDialog::initConnects()
     connect(timer, &QTimer::timeout, this, &QWaitingDialog::showNextFrame);
 }
 
-// All turning is done here, once: a tick of the timer only swaps a pixmap.
+// All turning is done here, once: a tick of the timer only swaps a pixmap. The frames are kept in
+// Qt's cache too, where the next dialog finds them.
 void QWaitingDialog::createFrames()
 {
     loadingPixmap.load(QStringLiteral(":/image/ic_loading.png"));
-    const int w = loadingPixmap.width();
-    const int h = loadingPixmap.height();
-    // A square that holds the icon's diagonal at any angle. Without the icon it is 10 x 10.
-    const int side = int(std::sqrt(double(w) * w + double(h) * h)) + FramePadding;
-
-    QTransform centred;
-    centred.translate(side / 2.0, side / 2.0);
     for (int i = 0; i < FrameCount; ++i) {
-        QTransform turned = centred;
-        turned.rotate(i * FrameAngle);
-        QPixmap frame(side, side);
-        frame.fill(Qt::transparent);
-        QPainter painter(&frame);
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.setTransform(turned);
-        painter.drawPixmap(-(w / 2), -(h / 2), loadingPixmap);
-        painter.end();
+        const QString key = QStringLiteral("QWaitingDialog_%1_%2")
+                                    .arg(loadingPixmap.cacheKey())
+                                    .arg(i * FrameAngle);
+        QPixmap frame;
+        if (!QPixmapCache::find(key, &frame)) {
+            frame = turned(loadingPixmap, i * FrameAngle);
+            QPixmapCache::insert(key, frame);
+        }
         frames.append(frame);
     }
 }
