@@ -189,13 +189,16 @@ void QZelBaseWindows::updateHoverCursor(const QPoint &position)
 // toolkit's clamping, the opposite edge would shift. The others rely on that clamping.
 void QZelBaseWindows::resizeByPressedArea(int dx, int dy)
 {
+    const int pressed = pressedArea.indexOf(true);
+    if (pressed < 0)
+        return;
     const int w = width() - dx;
     const int h = height() - dy;
     const bool tooNarrow = w < minimumSize().width();
     const bool tooLow = h < minimumSize().height();
     const QRect &r = pressRect;
 
-    switch (pressedArea.indexOf(true)) {
+    switch (pressed) {
     case Left:
         if (!tooNarrow)
             setGeometry(x() + dx, r.y(), w, r.height());
