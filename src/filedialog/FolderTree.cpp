@@ -198,6 +198,8 @@ int FolderTree::contentBottom() const
 {
     // By itself visualRect() lays out first, which may forget all of this.
     if (bottom < 0 || !foldersRead) {
+        // As QTreeView's own const functions do.
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
         const_cast<FolderTree *>(this)->executeDelayedItemsLayout();
         readFolders();
         bottom = lastFolder.isValid() ? qMax(0, visualRect(lastFolder).bottom() + 1) : 0;

@@ -36,6 +36,7 @@ template <typename Expected, typename Actual>
 Member member(const char *name, const Actual &value)
 {
     static_assert(std::is_same_v<Expected, Actual>, "a member has changed its type");
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): of a pointer it is meant to be the pointer's size
     return { name, std::addressof(value), sizeof(Actual), alignof(Actual) };
 }
 

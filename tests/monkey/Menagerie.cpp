@@ -233,7 +233,8 @@ void Menagerie::openFunction(Dice &dice)
     const QString caption = Names::text(dice);
     const QString filter = Names::text(dice);
     QWidget *owner = parent(dice);
-    QString filterOut, passwordOut;
+    QString filterOut;
+    QString passwordOut;
     QString *selected = dice.once(2) ? &filterOut : nullptr;
     QString *password = dice.once(2) ? &passwordOut : nullptr;
     const int which = dice.roll(4);

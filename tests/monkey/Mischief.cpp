@@ -26,7 +26,7 @@ void Mischief::play(Dice &dice)
 {
     const QByteArray base = folder(dice);
     const QByteArray path = Names::path(dice, base);
-    const auto what =
+    const char *const what =
             dice.pick({ "file", "file", "folder", "delete", "remove", "rename", "link", "circle",
                         "permissions", "vanish", "settings", "restore", "restore" });
     Trail::note(QByteArray(what) + ' ' + path);

@@ -12,8 +12,7 @@ QByteArray Names::file(Dice &dice)
         "deep",
         "two\nlines.txt",
         "<b>bold</b>&lt;.txt",
-        "a\xe2\x80\xae"
-        "txt.exe",
+        "a\xe2\x80\xae.txt.exe",
         "bad\xff\xfe.txt",
         "-rf",
         ".hidden",

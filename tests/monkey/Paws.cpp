@@ -73,7 +73,7 @@ struct Paws::Touch
 {
     QPointer<QWidget> window; // a press may destroy or hide it
     QPoint position;
-    Qt::MouseButton button;
+    Qt::MouseButton button = Qt::NoButton;
     Qt::KeyboardModifiers modifiers;
 
     void send(QEvent::Type type, Qt::MouseButtons held, int time) const
@@ -119,8 +119,8 @@ void Paws::useMouse(Dice &dice)
     const auto button =
             dice.once(4) ? dice.pick({ Qt::RightButton, Qt::MiddleButton }) : Qt::LeftButton;
     const Touch touch = { window, part->mapTo(window, inPart), button, anyModifiers(dice) };
-    const auto what = dice.pick({ "press", "release", "move", "move", "wheel", "double-click",
-                                  "click", "click", "click" });
+    const char *const what = dice.pick({ "press", "release", "move", "move", "wheel",
+                                         "double-click", "click", "click", "click" });
     Trail::note(QByteArray(what) + " on " + nameOf(part) + " of " + nameOf(window));
     now += Pause;
     switch (what[0]) {
@@ -205,8 +205,10 @@ void Paws::handleWindow(Dice &dice)
 void Paws::fireTimer(Dice &dice)
 {
     QWidget *window = windows.any(dice);
+    if (!window)
+        return Trail::note("no timer");
     QList<QTimer *> timers;
-    const QList<QTimer *> all = window ? window->findChildren<QTimer *>() : timers;
+    const QList<QTimer *> all = window->findChildren<QTimer *>();
     for (QTimer *timer : all) {
         if (timer->isActive())
             timers.append(timer);

@@ -25,7 +25,9 @@ int complain(const QString &text)
 // Without a limit of time it is ten minutes, or more for a long run.
 bool readLimits(const QCommandLineParser &parser, Monkey::Limits *limits)
 {
-    bool hasEvents = false, hasSeed = false, hasSeconds = true;
+    bool hasEvents = false;
+    bool hasSeed = false;
+    bool hasSeconds = true;
     limits->events = parser.value(QStringLiteral("events")).toLongLong(&hasEvents);
     limits->seed = parser.value(QStringLiteral("seed")).toULongLong(&hasSeed);
     limits->seconds = qMax(qint64(600), limits->events / 100);

@@ -16,7 +16,9 @@ QString SmallDisk::path()
 
 bool SmallDisk::reset()
 {
-    struct stat disk, root;
+    using Status = struct stat;
+    Status disk = {};
+    Status root = {};
     if (!qEnvironmentVariableIsSet("QTARNKIT_PRIVATE_ROOT") || stat(qPrintable(path()), &disk) != 0
         || stat("/root", &root) != 0 || disk.st_dev == root.st_dev)
         return false;

@@ -329,7 +329,7 @@ void tst_QZelFileManagerWidget_hostile::withoutFreeDescriptorsNothingElseGoes()
     QVERIFY(makeEntries(root, { QStringLiteral("other/a.txt") }));
     ShownManager manager;
     User::clickItem(manager.list(), QStringLiteral("nest"));
-    rlimit before;
+    rlimit before {};
     QCOMPARE(getrlimit(RLIMIT_NOFILE, &before), 0);
     const rlimit few = { 100, before.rlim_max };
     confirmDelete(manager, [&few] { QCOMPARE(setrlimit(RLIMIT_NOFILE, &few), 0); });
