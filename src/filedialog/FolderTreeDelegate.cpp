@@ -10,7 +10,7 @@ FolderTreeDelegate::FolderTreeDelegate(const FolderTree *tree, QObject *parent)
 QSize FolderTreeDelegate::sizeHint(const QStyleOptionViewItem &option,
                                    const QModelIndex &index) const
 {
-    if (option.widget != tree || index.model() != tree->model())
-        return DirItemStyledDelegate::sizeHint(option, index);
-    return tree->showsRow(index) ? QStyledItemDelegate::sizeHint(option, index) : QSize();
+    if (option.widget == tree && index.model() == tree->model() && !tree->showsRow(index))
+        return {};
+    return DirItemStyledDelegate::sizeHint(option, index);
 }

@@ -5,7 +5,7 @@
 
 class FolderTree;
 
-/// Answers its tree, which asks for the size of every row, from what the tree knows of its folders.
+/// Answers its tree, which asks for the size of every row, from what the tree knows of its files.
 class FolderTreeDelegate : public DirItemStyledDelegate
 {
 public:

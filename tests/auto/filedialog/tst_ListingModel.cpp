@@ -60,6 +60,9 @@ private:
     std::unique_ptr<QFileSystemModel> plain;
     QModelIndex root;
     QModelIndex plainRoot;
+    bool alwaysHiding = true;
+    QStringList atLayout;
+    int sorts = 0;
 };
 
 void tst_ListingModel::init()
@@ -124,9 +127,8 @@ void tst_ListingModel::itHasTheRowsOfAPlainModel()
 
 void tst_ListingModel::nameFiltersSayWhatWasSet()
 {
-    bool alwaysHiding = true;
     connect(model.get(), &QFileSystemModel::directoryLoaded, this,
-            [&] { alwaysHiding = alwaysHiding && !model->nameFilterDisables(); });
+            [this] { alwaysHiding = alwaysHiding && !model->nameFilterDisables(); });
     show({ s("a"), s("b") }, { s("*") });
     QVERIFY(alwaysHiding);
     QCOMPARE(model->nameFilters(), QStringList({ s("*") }));
@@ -155,10 +157,9 @@ void tst_ListingModel::namesThatAPatternNeverMatchesStayAway()
 void tst_ListingModel::newRowsAreSortedBeforeAViewLaysThemOut()
 {
     show({ s("b"), s("d") }, { s("*") });
-    QStringList atLayout;
-    connect(model.get(), &QAbstractItemModel::rowsInserted, this, [&] {
+    connect(model.get(), &QAbstractItemModel::rowsInserted, this, [this] {
         // As a view does.
-        QTimer::singleShot(0, model.get(), [&] { atLayout = ours(); });
+        QTimer::singleShot(0, model.get(), [this] { atLayout = ours(); });
     });
     QVERIFY(makeEntries(folder->path(), { s("a") }));
     QTRY_COMPARE(atLayout.size(), 3);
@@ -229,8 +230,7 @@ void tst_ListingModel::filtersThatAHostSetsTakeEffect()
 void tst_ListingModel::itComesToRest()
 {
     show({ s("a"), s("b"), s("c") }, { s("*") });
-    int sorts = 0;
-    connect(model.get(), &QAbstractItemModel::layoutChanged, this, [&] { ++sorts; });
+    connect(model.get(), &QAbstractItemModel::layoutChanged, this, [this] { ++sorts; });
     QVERIFY(makeEntries(folder->path(), { s("d") }));
     QTRY_COMPARE(model->rowCount(root), 4);
     QTRY_VERIFY(sorts > 0);

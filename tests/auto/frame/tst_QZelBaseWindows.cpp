@@ -195,7 +195,9 @@ void tst_QZelBaseWindows::slotsStoreTheirValues()
     QVERIFY(QMetaObject::invokeMethod(&window, "setPadding", Q_ARG(int, 7)));
     QVERIFY(QMetaObject::invokeMethod(&window, "setMoveEnable", Q_ARG(bool, false)));
     QVERIFY(QMetaObject::invokeMethod(&window, "setResizeEnable", Q_ARG(bool, false)));
-    const QArgument<QWidget *> bar("QWidget*", &strip); // normalised, as Q_ARG would not leave it
+    QWidget *const stripAddress = &strip; // the argument keeps where it stands
+    const QArgument<QWidget *> bar("QWidget*",
+                                   stripAddress); // normalised, as Q_ARG would not leave it
     QVERIFY(QMetaObject::invokeMethod(&window, "setTitleBar", bar));
     QCOMPARE(window.padding, 7);
     QCOMPARE(window.moveEnable, false);

@@ -84,7 +84,8 @@ QWidget *tst_StyleContrast::fileDialog(QZelFileDialog::OperateMode mode)
 void tst_StyleContrast::addStyles()
 {
     QTest::addColumn<QString>("style");
-    for (const QString &style : Appearance::styles())
+    const QStringList styles = Appearance::styles();
+    for (const QString &style : styles)
         QTest::newRow(qPrintable(style)) << style;
 }
 
@@ -176,7 +177,8 @@ void tst_StyleContrast::everyTextStandsOut_data()
     };
     QTest::addColumn<QString>("style");
     QTest::addColumn<Build>("build");
-    for (const QString &style : Appearance::styles()) {
+    const QStringList styles = Appearance::styles();
+    for (const QString &style : styles) {
         for (const auto &window : windows)
             QTest::newRow(qPrintable(style + s(" ") + s(window.first))) << style << window.second;
     }
