@@ -3,6 +3,8 @@
 #include <QHoverEvent>
 #include <QMouseEvent>
 
+#include <algorithm>
+
 namespace {
 
 // The index order is also the order in which the zones are tested.
@@ -137,13 +139,11 @@ void QZelBaseWindows::recordPress(const QPoint &position)
 {
     pressPoint = position;
     pressRect = geometry();
-    for (int zone = 0; zone < ZoneCount; ++zone) {
-        if (areaRects.at(zone).contains(position)) {
-            pressedArea[zone] = true;
-            return;
-        }
-    }
-    isPressed = true;
+    const int zone = zoneAt(position);
+    if (zone < ZoneCount)
+        pressedArea[zone] = true;
+    else
+        isPressed = true;
 }
 
 void QZelBaseWindows::forgetPress()
@@ -152,6 +152,21 @@ void QZelBaseWindows::forgetPress()
     isPressed = false;
     for (bool &pressed : pressedArea)
         pressed = false;
+}
+
+// ZoneCount for none.
+int QZelBaseWindows::zoneAt(const QPoint &position) const
+{
+    // Nearly every move is between the corners, where no zone is.
+    const QRect &topLeft = areaRects.at(TopLeft);
+    const QRect &bottomRight = areaRects.at(BottomRight);
+    if (position.x() > topLeft.right() && position.y() > topLeft.bottom()
+        && position.x() < bottomRight.left() && position.y() < bottomRight.top())
+        return ZoneCount;
+    int zone = 0;
+    while (zone < ZoneCount && !areaRects.at(zone).contains(position))
+        ++zone;
+    return zone;
 }
 
 void QZelBaseWindows::followHover(const QPoint &position)
@@ -173,13 +188,8 @@ void QZelBaseWindows::followHover(const QPoint &position)
 
 void QZelBaseWindows::updateHoverCursor(const QPoint &position)
 {
-    Qt::CursorShape shape = Qt::ArrowCursor;
-    for (int zone = 0; zone < ZoneCount; ++zone) {
-        if (areaRects.at(zone).contains(position)) {
-            shape = ZoneCursors[zone];
-            break;
-        }
-    }
+    const int zone = zoneAt(position);
+    const Qt::CursorShape shape = zone < ZoneCount ? ZoneCursors[zone] : Qt::ArrowCursor;
     // Setting a cursor costs more than all the rest of a hover move.
     if (!testAttribute(Qt::WA_SetCursor) || cursor().shape() != shape)
         setCursor(shape);
@@ -189,8 +199,8 @@ void QZelBaseWindows::updateHoverCursor(const QPoint &position)
 // toolkit's clamping, the opposite edge would shift. The others rely on that clamping.
 void QZelBaseWindows::resizeByPressedArea(int dx, int dy)
 {
-    const int pressed = pressedArea.indexOf(true);
-    if (pressed < 0)
+    const auto pressed = std::find(pressedArea.cbegin(), pressedArea.cend(), true);
+    if (pressed == pressedArea.cend())
         return;
     const int w = width() - dx;
     const int h = height() - dy;
@@ -198,7 +208,7 @@ void QZelBaseWindows::resizeByPressedArea(int dx, int dy)
     const bool tooLow = h < minimumSize().height();
     const QRect &r = pressRect;
 
-    switch (pressed) {
+    switch (pressed - pressedArea.cbegin()) {
     case Left:
         if (!tooNarrow)
             setGeometry(x() + dx, r.y(), w, r.height());
