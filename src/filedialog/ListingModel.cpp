@@ -1,9 +1,12 @@
 #include "filedialog/ListingModel.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFileIconProvider>
 #include <QHash>
 #include <QPointer>
+#include <QStyle>
+
+#include <memory>
 
 namespace {
 
@@ -11,6 +14,24 @@ QEvent::Type sortEventType()
 {
     static const int type = QEvent::registerEventType();
     return QEvent::Type(type);
+}
+
+// A provider has the style read its icons from files. One serves all models, until the style or the
+// icon theme is another.
+const QFileIconProvider &sharedIcons()
+{
+    struct Icons
+    {
+        QFileIconProvider provider;
+        QPointer<QStyle> style = QApplication::style();
+        QString theme = QIcon::themeName();
+    };
+    static std::unique_ptr<Icons> icons;
+    if (!icons)
+        qAddPostRoutine([] { icons.reset(); }); // not later than the application
+    if (!icons || icons->style != QApplication::style() || icons->theme != QIcon::themeName())
+        icons = std::make_unique<Icons>();
+    return icons->provider;
 }
 
 } // namespace
@@ -41,7 +62,7 @@ public:
     QIcon icon(const QFileInfo &info) const override
     {
         model->aboutToTakeIn();
-        return QFileIconProvider::icon(info);
+        return options() ? QFileIconProvider::icon(info) : sharedIcons().icon(info);
     }
 
 private:

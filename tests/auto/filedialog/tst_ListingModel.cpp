@@ -3,6 +3,9 @@
 
 #include <filedialog/ListingModel.h>
 
+#include <QApplication>
+#include <QFileIconProvider>
+#include <QProxyStyle>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -26,6 +29,21 @@ QStringList rowsOf(const QAbstractItemModel &model, const QModelIndex &parent)
     return rows;
 }
 
+/// A style with a picture of its own for files.
+class OwnIcons : public QProxyStyle
+{
+public:
+    QIcon standardIcon(StandardPixmap which, const QStyleOption *option,
+                       const QWidget *widget) const override
+    {
+        if (which != SP_FileIcon)
+            return QProxyStyle::standardIcon(which, option, widget);
+        QPixmap pixmap(16, 16);
+        pixmap.fill(Qt::magenta);
+        return pixmap;
+    }
+};
+
 } // namespace
 
 /// Compares the model with a plain one: the same rows, in the same order, with the same texts.
@@ -47,6 +65,7 @@ private Q_SLOTS:
     void aSubFolderIsSortedToo();
     void itSortsByOtherColumnsToo();
     void filtersThatAHostSetsTakeEffect();
+    void modelsShareTheirIconsUntilTheStyleChanges();
     void itComesToRest();
     void itMayDieWhenRowsArrive();
 
@@ -227,6 +246,33 @@ void tst_ListingModel::filtersThatAHostSetsTakeEffect()
 }
 
 // Setting the name filters aside wants another sort, which must not want one more.
+void tst_ListingModel::modelsShareTheirIconsUntilTheStyleChanges()
+{
+    show({ s("a/"), s("b") }, {});
+    const auto iconOf = [this](QFileSystemModel *of) {
+        return of->index(folder->filePath(s("b"))).data(Qt::DecorationRole).value<QIcon>();
+    };
+    const qint64 shared = iconOf(model.get()).cacheKey();
+    QVERIFY(shared != iconOf(plain.get()).cacheKey());
+    QCOMPARE(iconOf(model.get()).pixmap(16, 16).toImage(),
+             iconOf(plain.get()).pixmap(16, 16).toImage());
+    ListingModel second(nullptr);
+    QCOMPARE(iconOf(&second).cacheKey(), shared);
+
+    ListingModel withOptions(nullptr);
+    withOptions.iconProvider()->setOptions(QFileIconProvider::DontUseCustomDirectoryIcons);
+    QVERIFY(iconOf(&withOptions).cacheKey() != shared);
+
+    QApplication::setStyle(new OwnIcons);
+    ListingModel later(nullptr);
+    const QColor colour = iconOf(&later).pixmap(16, 16).toImage().pixelColor(8, 8);
+    QApplication::setStyle(s("fusion"));
+    QCOMPARE(colour, QColor(Qt::magenta));
+    ListingModel afterAll(nullptr);
+    QCOMPARE(iconOf(&afterAll).pixmap(16, 16).toImage(),
+             iconOf(plain.get()).pixmap(16, 16).toImage());
+}
+
 void tst_ListingModel::itComesToRest()
 {
     show({ s("a"), s("b"), s("c") }, { s("*") });
