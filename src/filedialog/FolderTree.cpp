@@ -47,7 +47,7 @@ private:
 } // namespace
 
 FolderTree::FolderTree(QWidget *parent)
-    : QTreeView(parent)
+    : OncePaintedTree(parent)
 {
     connect(this, &QTreeView::expanded, this, &FolderTree::forgetFolders);
     connect(this, &QTreeView::collapsed, this, &FolderTree::forgetFolders);

@@ -1,9 +1,10 @@
 #ifndef FOLDERTREE_H
 #define FOLDERTREE_H
 
+#include "filedialog/OncePaintedTree.h"
+
 #include <QPersistentModelIndex>
 #include <QSet>
-#include <QTreeView>
 
 /**
  * The tree view of a FolderTreeDelegate: rows of files have no height, and it does not walk them.
@@ -15,7 +16,7 @@
  *
  * Without Q_OBJECT: to hosts and style sheets it is a QTreeView.
  */
-class FolderTree : public QTreeView
+class FolderTree : public OncePaintedTree
 {
 public:
     explicit FolderTree(QWidget *parent = nullptr);
