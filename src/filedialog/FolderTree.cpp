@@ -2,7 +2,9 @@
 
 #include <QDirIterator>
 #include <QFileSystemModel>
+#include <QHeaderView>
 #include <QHoverEvent>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -61,7 +63,7 @@ bool FolderTree::showsRow(const QModelIndex &index) const
 
 QModelIndex FolderTree::indexAt(const QPoint &point) const
 {
-    return point.y() < contentBottom() ? QTreeView::indexAt(point) : QModelIndex();
+    return isBelowFolders(point) ? QModelIndex() : QTreeView::indexAt(point);
 }
 
 void FolderTree::doItemsLayout()
@@ -80,24 +82,49 @@ void FolderTree::dataChanged(const QModelIndex &topLeft, const QModelIndex &bott
 
 bool FolderTree::viewportEvent(QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::HoverEnter:
-    case QEvent::HoverMove: {
-        const bool wasBelow = hoverBelow;
-        hoverBelow = static_cast<QHoverEvent *>(event)->pos().y() >= contentBottom();
-        // QTreeView would look for a branch under the pointer. The first time it may, to leave the
-        // branch where the pointer was.
-        if (wasBelow && hoverBelow)
-            return QAbstractItemView::viewportEvent(event);
-        break;
-    }
-    case QEvent::HoverLeave:
-        hoverBelow = false;
-        break;
-    default:
-        break;
-    }
-    return QTreeView::viewportEvent(event);
+    if (event->type() != QEvent::HoverEnter && event->type() != QEvent::HoverMove)
+        return QTreeView::viewportEvent(event);
+    const auto *hover = static_cast<QHoverEvent *>(event);
+    if (!isBelowFolders(hover->pos()))
+        return QTreeView::viewportEvent(event);
+    // QTreeView looks for a branch under the pointer. Beside the columns it sees at once that there
+    // is none, and still leaves the branch where the pointer was.
+    const int beside = header()->length() + viewport()->width() + 1;
+    QHoverEvent moved(hover->type(), QPointF(isRightToLeft() ? -beside : beside, hover->posF().y()),
+                      hover->oldPosF(), hover->modifiers());
+    return QTreeView::viewportEvent(&moved);
+}
+
+// Of the four below, QTreeView's own add only the search for a branch under the pointer, and for an
+// item to expand.
+void FolderTree::mousePressEvent(QMouseEvent *event)
+{
+    if (isBelowFolders(event->pos()))
+        QAbstractItemView::mousePressEvent(event);
+    else
+        QTreeView::mousePressEvent(event);
+}
+
+void FolderTree::mouseMoveEvent(QMouseEvent *event)
+{
+    if (isBelowFolders(event->pos()))
+        QAbstractItemView::mouseMoveEvent(event);
+    else
+        QTreeView::mouseMoveEvent(event);
+}
+
+void FolderTree::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (isBelowFolders(event->pos()))
+        QAbstractItemView::mouseReleaseEvent(event);
+    else
+        QTreeView::mouseReleaseEvent(event);
+}
+
+void FolderTree::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (!isBelowFolders(event->pos()))
+        QTreeView::mouseDoubleClickEvent(event);
 }
 
 void FolderTree::paintEvent(QPaintEvent *event)

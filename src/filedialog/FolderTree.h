@@ -31,6 +31,10 @@ public:
 
 protected:
     bool viewportEvent(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;
@@ -40,6 +44,7 @@ private:
     void readFoldersBelow(const QModelIndex &parent) const;
     int rowsOnLastPage() const;
     int contentBottom() const;
+    bool isBelowFolders(const QPoint &point) const { return point.y() >= contentBottom(); }
     void forgetFolders();
 
     // Filled when they are needed first after a layout.
@@ -49,7 +54,6 @@ private:
     mutable int rows = 0; // all that are laid out
     mutable int rowsBelow = 0; // of those, the ones below lastFolder
     mutable int bottom = -1; // the first line below it in the viewport, -1: not known
-    bool hoverBelow = false; // the pointer was below it
 };
 
 #endif // FOLDERTREE_H

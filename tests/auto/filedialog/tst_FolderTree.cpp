@@ -55,7 +55,9 @@ private Q_SLOTS:
     void fewEntriesAndManyAreToldApartAlike();
     void withPixelScrollingItIsAPlainTree();
     void alternatingColoursGoOnBelowTheLastFolder();
+    void theHoveredRowIsLeftForTheBlankArea_data();
     void theHoveredRowIsLeftForTheBlankArea();
+    void clicksBelowTheLastFolderHitNothing();
     void thePlainDelegateIsAskedForOtherViews();
 
 private:
@@ -280,13 +282,27 @@ void tst_FolderTree::alternatingColoursGoOnBelowTheLastFolder()
     compare();
 }
 
+void tst_FolderTree::theHoveredRowIsLeftForTheBlankArea_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("left to right") << Qt::LeftToRight;
+    QTest::newRow("right to left") << Qt::RightToLeft;
+}
+
 void tst_FolderTree::theHoveredRowIsLeftForTheBlankArea()
 {
+    QFETCH(Qt::LayoutDirection, direction);
+    inBoth([&](QTreeView *tree) { tree->setLayoutDirection(direction); });
     show(files(20) + QStringList({ s("a/inner/"), s("b/") }));
-    const QPoint onRow = ours->visualRect(index(s("a"))).center();
+    const QRect row = ours->visualRect(index(s("a")));
+    const bool mirrored = direction == Qt::RightToLeft;
+    const QPoint onBranch(mirrored ? row.right() + 10 : row.left() - 10, row.center().y());
+    const QPoint onRow = row.center();
     const QPoint below(onRow.x(), ours->viewport()->height() - 5);
+    const QPoint belowBranch(onBranch.x(), below.y());
     QPoint before(-1, -1);
-    for (const QPoint point : { onRow, below, below + QPoint(0, 1), onRow }) {
+    for (const QPoint point :
+         { onRow, below, below + QPoint(0, 1), onRow, onBranch, belowBranch, onBranch, below }) {
         inBoth([&](QTreeView *tree) {
             QHoverEvent move(QEvent::HoverMove, point, before);
             QCoreApplication::sendEvent(tree->viewport(), &move);
@@ -298,6 +314,45 @@ void tst_FolderTree::theHoveredRowIsLeftForTheBlankArea()
         QHoverEvent leave(QEvent::HoverLeave, QPoint(-1, -1), before);
         QCoreApplication::sendEvent(tree->viewport(), &leave);
     });
+    compare();
+}
+
+void tst_FolderTree::clicksBelowTheLastFolderHitNothing()
+{
+    show(files(20) + QStringList({ s("a/inner/"), s("b/") }));
+    const QPoint onRow = ours->visualRect(index(s("b"))).center();
+    const QPoint onBranch = ours->visualRect(index(s("a"))).center() - QPoint(onRow.x() - 10, 0);
+    const QPoint below(60, ours->viewport()->height() - 5);
+    QStringList log[2];
+    inBoth([&](QTreeView *tree) {
+        tree->setSelectionMode(
+                QAbstractItemView::ExtendedSelection); // a click on nothing clears it
+        QStringList &said = log[tree == plain.get()];
+        connect(tree, &QTreeView::pressed, tree, [&said] { said.append(s("pressed")); });
+        connect(tree, &QTreeView::clicked, tree, [&said] { said.append(s("clicked")); });
+        connect(tree, &QTreeView::doubleClicked, tree, [&said] { said.append(s("double")); });
+        connect(tree, &QTreeView::activated, tree, [&said] { said.append(s("activated")); });
+        connect(tree, &QTreeView::expanded, tree, [&said] { said.append(s("expanded")); });
+        QWidget *viewport = tree->viewport();
+        for (const QPoint point : { onRow, below, onBranch, below }) {
+            QTest::mouseClick(viewport, Qt::LeftButton, {}, point);
+            said.append(s("%1 selected").arg(tree->selectionModel()->selectedRows().size()));
+        }
+        QTest::mouseDClick(viewport, Qt::LeftButton, {}, below);
+        // From a row to the blank area and back, pressed.
+        QTest::mousePress(viewport, Qt::LeftButton, {}, onRow);
+        for (const QPoint point : { below, onRow, below }) {
+            QMouseEvent move(QEvent::MouseMove, point, Qt::NoButton, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(viewport, &move);
+        }
+        QTest::mouseRelease(viewport, Qt::LeftButton, {}, below);
+        said.append(s("%1 selected").arg(tree->selectionModel()->selectedRows().size()));
+    });
+    QCOMPARE(log[0], log[1]);
+    QVERIFY(log[0].contains(s("expanded")));
+    QVERIFY(log[0].contains(s("clicked")));
+    QVERIFY(log[0].contains(s("0 selected")));
+    inBoth([](QTreeView *tree) { tree->clearFocus(); });
     compare();
 }
 
