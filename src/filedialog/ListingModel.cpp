@@ -94,8 +94,9 @@ void ListingModel::sort(int column, Qt::SortOrder order)
     sorted = wanted;
     const bool wasSuspended = suspended;
     suspendNameFilters();
+    const QPointer<ListingModel> self(this); // a receiver of layoutChanged() may delete it
     QFileSystemModel::sort(column, order);
-    if (!wasSuspended)
+    if (self && !wasSuspended)
         resumeNameFilters();
 }
 
@@ -120,10 +121,15 @@ bool ListingModel::event(QEvent *event)
     const QPointer<ListingModel> self(this);
     takingNews = true;
     const bool handled = QFileSystemModel::event(event);
-    if (self) {
-        takingNews = false;
-        resumeNameFilters();
+    if (!self)
+        return handled;
+    takingNews = false;
+    if (rowsCame) {
+        rowsCame = false;
+        sort(sorted.column, sorted.order);
     }
+    if (self)
+        resumeNameFilters();
     return handled;
 }
 
@@ -160,7 +166,8 @@ void ListingModel::resumeNameFilters()
 void ListingModel::sortSoon()
 {
     unsorted = true;
-    if (sortPosted)
+    rowsCame = takingNews;
+    if (takingNews || sortPosted)
         return;
     sortPosted = true;
     QCoreApplication::postEvent(this, new QEvent(sortEventType()), Qt::HighEventPriority);

@@ -54,6 +54,7 @@ private:
     bool unsorted = true; // rows came or changed since the last sort
     bool sortPosted = false;
     bool takingNews = false; // an event of the worker thread is being handled
+    bool rowsCame = false; // in that event
     bool suspended = false; // the name filters, for the time of one event or sort
 };
 
