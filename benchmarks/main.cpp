@@ -139,10 +139,12 @@ int measure(const Row &row, int pairs)
     return 0;
 }
 
-// One side alone, to be counted from outside.
+// One side alone, to be counted from outside. No repeat at all still sets up, for the difference.
 int run(const Row &row, Side side, int repeats)
 {
     QJsonArray samples;
+    if (repeats == 0)
+        row.make(side);
     for (int i = 0; i < repeats; ++i)
         samples.append(measured(row, side).figure);
     print({ { QStringLiteral("samples"), samples } });
