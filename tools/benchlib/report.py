@@ -4,6 +4,7 @@ from . import growth, plot
 from .program import ROOT
 
 DOCUMENT = ROOT / "docs" / "performance.md"
+NOTES = ROOT / "benchmarks" / "notes.md"  # what the figures do not say by themselves
 PLOT = ROOT / "docs" / "performance.svg"
 MILLISECOND = 10_000_000  # instructions, roughly
 
@@ -17,10 +18,10 @@ HEADER = """\
 - Qt: {qt}, the offscreen platform, the Fusion style
 - Library: the release build
 
-Stock is Qt's own counterpart on the same work in the same
-process: QFileDialog (not native, detail view), QMessageBox, QProgressDialog, QInputDialog,
-QProgressBar, QSpinBox with QSlider, a frameless QMainWindow; for the folder tree, which QFileDialog
-lacks, a QTreeView over a QFileSystemModel of folders only.
+Stock is Qt's own counterpart on the same work in the same process: QFileDialog (not native, detail
+view), QMessageBox, QProgressDialog, QInputDialog, QProgressBar, QSpinBox with QSlider, a frameless
+QMainWindow; for the folder tree, which QFileDialog lacks, a QTreeView over a QFileSystemModel of
+folders only.
 
 A ratio is the median over pairs of measurements, taken in turn after one pair that warms up; the
 spread is from the first to the third quartile, and "in CPU" is the ratio of the processor time of
@@ -123,6 +124,7 @@ def document(results):
     yield HEADER.format(**results["machine"])
     yield from table(["work", "ours", "stock", "ratio", "spread", "in CPU", "taken", "goal", "reached"],
                      (cells(result) for result in in_order(results["rows"])))
+    yield "\n" + NOTES.read_text().rstrip()
     if results.get("growth"):
         yield GROWTH
         yield from growth_lines(results["growth"])
