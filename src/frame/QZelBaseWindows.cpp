@@ -15,6 +15,21 @@ constexpr Qt::CursorShape ZoneCursors[ZoneCount] = {
     Qt::SizeFDiagCursor, Qt::SizeBDiagCursor, Qt::SizeBDiagCursor, Qt::SizeFDiagCursor,
 };
 
+// ZoneCount for none.
+int zoneAt(const QPoint &position, const QList<QRect> &zones)
+{
+    // Nearly every move is between the corners, where no zone is.
+    const QRect &topLeft = zones.at(TopLeft);
+    const QRect &bottomRight = zones.at(BottomRight);
+    if (position.x() > topLeft.right() && position.y() > topLeft.bottom()
+        && position.x() < bottomRight.left() && position.y() < bottomRight.top())
+        return ZoneCount;
+    int zone = 0;
+    while (zone < ZoneCount && !zones.at(zone).contains(position))
+        ++zone;
+    return zone;
+}
+
 } // namespace
 
 QZelBaseWindows::QZelBaseWindows(QWidget *parent)
@@ -139,7 +154,7 @@ void QZelBaseWindows::recordPress(const QPoint &position)
 {
     pressPoint = position;
     pressRect = geometry();
-    const int zone = zoneAt(position);
+    const int zone = zoneAt(position, areaRects);
     if (zone < ZoneCount)
         pressedArea[zone] = true;
     else
@@ -152,21 +167,6 @@ void QZelBaseWindows::forgetPress()
     isPressed = false;
     for (bool &pressed : pressedArea)
         pressed = false;
-}
-
-// ZoneCount for none.
-int QZelBaseWindows::zoneAt(const QPoint &position) const
-{
-    // Nearly every move is between the corners, where no zone is.
-    const QRect &topLeft = areaRects.at(TopLeft);
-    const QRect &bottomRight = areaRects.at(BottomRight);
-    if (position.x() > topLeft.right() && position.y() > topLeft.bottom()
-        && position.x() < bottomRight.left() && position.y() < bottomRight.top())
-        return ZoneCount;
-    int zone = 0;
-    while (zone < ZoneCount && !areaRects.at(zone).contains(position))
-        ++zone;
-    return zone;
 }
 
 void QZelBaseWindows::followHover(const QPoint &position)
@@ -188,7 +188,7 @@ void QZelBaseWindows::followHover(const QPoint &position)
 
 void QZelBaseWindows::updateHoverCursor(const QPoint &position)
 {
-    const int zone = zoneAt(position);
+    const int zone = zoneAt(position, areaRects);
     const Qt::CursorShape shape = zone < ZoneCount ? ZoneCursors[zone] : Qt::ArrowCursor;
     // Setting a cursor costs more than all the rest of a hover move.
     if (!testAttribute(Qt::WA_SetCursor) || cursor().shape() != shape)

@@ -102,7 +102,6 @@ private:
     void updateAreaRects();
     void recordPress(const QPoint &position);
     void forgetPress();
-    int zoneAt(const QPoint &position) const;
     void followHover(const QPoint &position);
     void updateHoverCursor(const QPoint &position);
     void resizeByPressedArea(int dx, int dy);
