@@ -327,16 +327,16 @@ void tst_FolderTree::clicksBelowTheLastFolderHitNothing()
     inBoth([&](QTreeView *tree) {
         tree->setSelectionMode(
                 QAbstractItemView::ExtendedSelection); // a click on nothing clears it
-        QStringList &said = log[tree == plain.get()];
-        connect(tree, &QTreeView::pressed, tree, [&said] { said.append(s("pressed")); });
-        connect(tree, &QTreeView::clicked, tree, [&said] { said.append(s("clicked")); });
-        connect(tree, &QTreeView::doubleClicked, tree, [&said] { said.append(s("double")); });
-        connect(tree, &QTreeView::activated, tree, [&said] { said.append(s("activated")); });
-        connect(tree, &QTreeView::expanded, tree, [&said] { said.append(s("expanded")); });
+        QStringList *said = &log[tree == plain.get()];
+        connect(tree, &QTreeView::pressed, tree, [said] { said->append(s("pressed")); });
+        connect(tree, &QTreeView::clicked, tree, [said] { said->append(s("clicked")); });
+        connect(tree, &QTreeView::doubleClicked, tree, [said] { said->append(s("double")); });
+        connect(tree, &QTreeView::activated, tree, [said] { said->append(s("activated")); });
+        connect(tree, &QTreeView::expanded, tree, [said] { said->append(s("expanded")); });
         QWidget *viewport = tree->viewport();
         for (const QPoint point : { onRow, below, onBranch, below }) {
             QTest::mouseClick(viewport, Qt::LeftButton, {}, point);
-            said.append(s("%1 selected").arg(tree->selectionModel()->selectedRows().size()));
+            said->append(s("%1 selected").arg(tree->selectionModel()->selectedRows().size()));
         }
         QTest::mouseDClick(viewport, Qt::LeftButton, {}, below);
         // From a row to the blank area and back, pressed.
@@ -346,7 +346,7 @@ void tst_FolderTree::clicksBelowTheLastFolderHitNothing()
             QCoreApplication::sendEvent(viewport, &move);
         }
         QTest::mouseRelease(viewport, Qt::LeftButton, {}, below);
-        said.append(s("%1 selected").arg(tree->selectionModel()->selectedRows().size()));
+        said->append(s("%1 selected").arg(tree->selectionModel()->selectedRows().size()));
     });
     QCOMPARE(log[0], log[1]);
     QVERIFY(log[0].contains(s("expanded")));

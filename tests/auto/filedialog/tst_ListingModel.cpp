@@ -179,8 +179,10 @@ void tst_ListingModel::newRowsAreSortedBeforeAViewLaysThemOut()
     show({ s("b"), s("d") }, { s("*") });
     QTimer layout; // as a view's
     layout.setSingleShot(true);
+    layout.setInterval(0);
     connect(&layout, &QTimer::timeout, this, [this] { atLayout = ours(); });
-    connect(model.get(), &QAbstractItemModel::rowsInserted, this, [&layout] { layout.start(0); });
+    connect(model.get(), &QAbstractItemModel::rowsInserted, &layout,
+            QOverload<>::of(&QTimer::start));
     QTimer busy; // so that timers are due whenever the loop looks
     busy.start(0);
     QVERIFY(makeEntries(folder->path(), { s("a") }));
