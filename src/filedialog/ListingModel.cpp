@@ -166,8 +166,11 @@ void ListingModel::resumeNameFilters()
 void ListingModel::sortSoon()
 {
     unsorted = true;
-    rowsCame = takingNews;
-    if (takingNews || sortPosted)
+    if (takingNews) {
+        rowsCame = true;
+        return;
+    }
+    if (sortPosted)
         return;
     sortPosted = true;
     QCoreApplication::postEvent(this, new QEvent(sortEventType()), Qt::HighEventPriority);
