@@ -32,7 +32,7 @@ public:
     }
 
     /// The start folder.
-    static QString folder() { return QStringLiteral("/root/work/"); }
+    static QString folder() { return QStringLiteral("/root/docs/"); }
 
     QLineEdit *name() { return findChild<QLineEdit *>(QStringLiteral("let_FileName")); }
     QLineEdit *path() { return findChild<QLineEdit *>(QStringLiteral("let_FilePath")); }

@@ -31,6 +31,21 @@ QStringList files(int count)
     return names;
 }
 
+/// Counts the rows whose height is asked for.
+class CountingDelegate : public FolderTreeDelegate
+{
+public:
+    using FolderTreeDelegate::FolderTreeDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        ++count;
+        return FolderTreeDelegate::sizeHint(option, index);
+    }
+
+    mutable int count = 0;
+};
+
 } // namespace
 
 /// Compares the tree with a plain one that asks the delegate for each row: nothing may differ.
@@ -58,6 +73,7 @@ private Q_SLOTS:
     void theHoveredRowIsLeftForTheBlankArea_data();
     void theHoveredRowIsLeftForTheBlankArea();
     void clicksBelowTheLastFolderHitNothing();
+    void thePointerBelowTheLastFolderWalksNoRows();
     void thePlainDelegateIsAskedForOtherViews();
 
 private:
@@ -354,6 +370,27 @@ void tst_FolderTree::clicksBelowTheLastFolderHitNothing()
     QVERIFY(log[0].contains(s("0 selected")));
     inBoth([](QTreeView *tree) { tree->clearFocus(); });
     compare();
+}
+
+void tst_FolderTree::thePointerBelowTheLastFolderWalksNoRows()
+{
+    auto *delegate = new CountingDelegate(ours.get(), ours.get());
+    ours->setItemDelegate(delegate);
+    show(files(50) + QStringList({ s("a/") }));
+    QWidget *viewport = ours->viewport();
+    const QPoint below(60, viewport->height() - 5);
+    ours->indexAt(below);
+    QVERIFY(delegate->count > 0);
+    delegate->count = 0;
+    for (const QEvent::Type type : { QEvent::HoverEnter, QEvent::HoverMove }) {
+        QHoverEvent hover(type, below, QPoint(-1, -1));
+        QCoreApplication::sendEvent(viewport, &hover);
+    }
+    QTest::mouseClick(viewport, Qt::LeftButton, {}, below);
+    QTest::mouseDClick(viewport, Qt::LeftButton, {}, below);
+    QMouseEvent move(QEvent::MouseMove, below, Qt::NoButton, Qt::NoButton, {});
+    QCoreApplication::sendEvent(viewport, &move);
+    QCOMPARE(delegate->count, 0);
 }
 
 void tst_FolderTree::thePlainDelegateIsAskedForOtherViews()

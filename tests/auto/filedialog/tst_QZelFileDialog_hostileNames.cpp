@@ -20,7 +20,7 @@ namespace {
 
 using Mode = QZelFileDialog::OperateMode;
 
-const QString folder = QStringLiteral("/root/work");
+const QString folder = QStringLiteral("/root/docs");
 const QString fifo = QStringLiteral("/root/pipe");
 
 QString in(const QString &name)
@@ -272,7 +272,7 @@ void tst_QZelFileDialog_hostileNames::allAreSelectedAtOnce()
     dialog->press(QStringLiteral("btn_OpenSave"));
     QCOMPARE(dialog->result(), int(QDialog::Accepted));
     QStringList chosen = dialog->getFilePaths();
-    chosen.replaceInStrings(QRegularExpression(QStringLiteral("^/root/work/")), QString());
+    chosen.replaceInStrings(QRegularExpression(QStringLiteral("^/root/docs/")), QString());
     chosen.sort();
     QCOMPARE(chosen, names);
 }

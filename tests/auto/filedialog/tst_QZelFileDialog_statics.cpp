@@ -259,7 +259,7 @@ void tst_QZelFileDialog_statics::openedFileIsReturnedAndItsFolderRemembered()
     const Result result = run(OpenOne);
     QVERIFY(driver.finished());
     QCOMPARE(result.paths, QStringList(folder + QStringLiteral("sub/inner.txt")));
-    QCOMPARE(setting(QStringLiteral("Text (*.txt)")).toString(), QStringLiteral("/root/work/sub"));
+    QCOMPARE(setting(QStringLiteral("Text (*.txt)")).toString(), QStringLiteral("/root/docs/sub"));
     QVERIFY(!setting(QStringLiteral("All (*)")).isValid());
     QVERIFY(!setting(QString()).isValid());
 }
@@ -287,7 +287,7 @@ void tst_QZelFileDialog_statics::openedFilesAreReturnedAndTheFirstOnesFolderReme
     QVERIFY(driver.finished());
     QCOMPARE(result.paths,
              QStringList({ folder + QStringLiteral("b.txt"), folder + QStringLiteral("a.txt") }));
-    QCOMPARE(setting(QStringLiteral("Text (*.txt)")).toString(), QStringLiteral("/root/work"));
+    QCOMPARE(setting(QStringLiteral("Text (*.txt)")).toString(), QStringLiteral("/root/docs"));
 }
 
 void tst_QZelFileDialog_statics::doubleClickedFileJoinsTheSelection()
@@ -326,7 +326,7 @@ void tst_QZelFileDialog_statics::savedNameIsReturned()
         QVERIFY(driver.finished());
         QCOMPARE(result.paths, QStringList(folder + QStringLiteral("report.txt")));
         QCOMPARE(result.password, QString());
-        QCOMPARE(setting(QStringLiteral("Text (*.txt)")).toString(), QStringLiteral("/root/work"));
+        QCOMPARE(setting(QStringLiteral("Text (*.txt)")).toString(), QStringLiteral("/root/docs"));
     }
 }
 
@@ -383,13 +383,13 @@ void tst_QZelFileDialog_statics::folderEndsWithASlashByWay_data()
         QTest::newRow(way) << QString::fromUtf8(way) << QString::fromUtf8(expected)
                            << QString::fromUtf8(remembered);
     };
-    row("start folder", "/root/work/", "/root/work");
-    row("home", "/root/work/", "/root/work");
-    row("double-click", "/root/work/sub/", "/root/work/sub");
+    row("start folder", "/root/docs/", "/root/docs");
+    row("home", "/root/docs/", "/root/docs");
+    row("double-click", "/root/docs/sub/", "/root/docs/sub");
     // What is cut off at the last slash is then the folder itself.
-    row("tree click", "/root/work/sub", "/root/work");
-    row("list click", "/root/work/sub", "/root/work");
-    row("typed path", "/root/work/sub", "/root/work");
+    row("tree click", "/root/docs/sub", "/root/docs");
+    row("list click", "/root/docs/sub", "/root/docs");
+    row("typed path", "/root/docs/sub", "/root/docs");
 }
 
 void tst_QZelFileDialog_statics::folderEndsWithASlashByWay()

@@ -14,7 +14,7 @@ namespace {
 
 using Mode = QZelFileDialog::OperateMode;
 
-const QString folder = QStringLiteral("/root/work");
+const QString folder = QStringLiteral("/root/docs");
 
 QString in(const QString &path)
 {
