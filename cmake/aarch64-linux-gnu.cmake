@@ -1,5 +1,6 @@
 # Cross-build for 64-bit ARM against the root that tools/arm64-sysroot makes:
 #   cmake -DCMAKE_TOOLCHAIN_FILE=cmake/aarch64-linux-gnu.cmake -DQTARNKIT_SYSROOT=PATH
+# What was built runs under tools/with-arm64.
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
 # So that the root's lib/aarch64-linux-gnu is searched.
@@ -17,10 +18,3 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
-
-find_program(QTARNKIT_EMULATOR NAMES qemu-aarch64-static qemu-aarch64)
-if(QTARNKIT_EMULATOR)
-    # Qt would not find its plugins by itself: the emulator does not map statx into the root.
-    set(CMAKE_CROSSCOMPILING_EMULATOR
-        "env;QT_PLUGIN_PATH=${QTARNKIT_SYSROOT}/usr/lib/aarch64-linux-gnu/qt5/plugins;${QTARNKIT_EMULATOR};-L;${QTARNKIT_SYSROOT}")
-endif()
