@@ -1,3 +1,4 @@
+#include "ManagedFolder.h"
 #include "MarkingTranslator.h"
 #include "ModalDriver.h"
 #include "ShownManager.h"
@@ -17,20 +18,7 @@ using QTarnKit::QUIMessageBox;
 
 namespace {
 
-const QString root = FtpFolder::path();
-const QString outside = QStringLiteral("/root/outside");
 const QString confirm = QStringLiteral("Yes");
-
-QString inRoot(const QString &path)
-{
-    return root + QLatin1Char('/') + path;
-}
-
-QStringList entries(const QString &path = root)
-{
-    return QDir(path).entryList(
-            QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
-}
 
 bool link(const QString &target, const QString &name)
 {

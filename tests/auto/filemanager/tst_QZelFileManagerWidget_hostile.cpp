@@ -1,4 +1,5 @@
 #include "HostileNames.h"
+#include "ManagedFolder.h"
 #include "ModalDriver.h"
 #include "ShownManager.h"
 #include "SmallDisk.h"
@@ -19,20 +20,6 @@
 using QTarnKit::QUIMessageBox;
 
 namespace {
-
-const QString root = FtpFolder::path();
-const QString outside = QStringLiteral("/root/outside");
-
-QString inRoot(const QString &path)
-{
-    return root + QLatin1Char('/') + path;
-}
-
-QStringList entries(const QString &path = root)
-{
-    return QDir(path).entryList(
-            QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
-}
 
 void confirmDelete(ShownManager &manager, const std::function<void()> &meanwhile = {})
 {
