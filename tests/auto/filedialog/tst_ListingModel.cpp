@@ -264,6 +264,13 @@ void tst_ListingModel::modelsShareTheirIconsUntilTheStyleChanges()
     ListingModel second(nullptr);
     QCOMPARE(iconOf(&second).cacheKey(), shared);
 
+    const QString theme = QIcon::themeName();
+    QIcon::setThemeName(s("another theme"));
+    ListingModel withTheme(nullptr);
+    const qint64 ofTheme = iconOf(&withTheme).cacheKey();
+    QIcon::setThemeName(theme);
+    QVERIFY(ofTheme != shared);
+
     ListingModel withOptions(nullptr);
     withOptions.iconProvider()->setOptions(QFileIconProvider::DontUseCustomDirectoryIcons);
     QVERIFY(iconOf(&withOptions).cacheKey() != shared);
